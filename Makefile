@@ -1,0 +1,35 @@
+# The project's front door: set-up, build, examples, tests, memcheck, benchmarks, install.
+BUILD_DIR ?= build
+PREFIX ?= /usr/local
+JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+
+.PHONY: all deps build demo check memcheck bench install clean
+
+all: build
+
+# Installs what is missing on a Debian 12 machine (needs root; does nothing when all is there).
+deps:
+	@bash tools/install-deps.sh
+
+build: deps
+	cmake -S . -B $(BUILD_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build $(BUILD_DIR) -j $(JOBS)
+
+demo: build
+	@bash tools/run-examples.sh $(BUILD_DIR)
+
+check: build
+	cd $(BUILD_DIR) && ctest -j $(JOBS) --output-on-failure
+
+memcheck: build
+	cd $(BUILD_DIR) && LORB_MEMCHECK=1 LORB_MEMCHECK_LOGS=$(CURDIR)/$(BUILD_DIR)/memcheck \
+	  ctest -j $(JOBS) --timeout 1200 --output-on-failure
+
+bench: build
+	@bash bench/run.sh $(BUILD_DIR)
+
+install: build
+	cmake --install $(BUILD_DIR) --prefix $(PREFIX)
+
+clean:
+	rm -rf $(BUILD_DIR)

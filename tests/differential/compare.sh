@@ -1,0 +1,23 @@
+#!/bin/sh
+# Runs a differential program built against both libraries and compares what each prints.
+# With a third argument naming an existing file, Lorb++'s output must match that file instead
+# (a deliberate divergence, written down) and the GNU build only has to run.
+lorb=$1 gnu=$2 expected=$3
+run_test="$(dirname "$0")/../../tools/run-test.sh"
+lorb_out=$(sh "$run_test" "$lorb" 2>&1; echo "exit $?")
+gnu_out=$("$gnu" 2>&1; echo "exit $?")
+if [ -n "$expected" ] && [ -f "$expected" ]; then
+  want=$(cat "$expected")
+  [ "$lorb_out" = "$want" ] && exit 0
+  echo "Lorb++ output differs from the written expectation $expected:"
+  printf '%s\n' "$lorb_out" > /tmp/lorb_diff.$$
+  printf '%s\n' "$want" | diff - /tmp/lorb_diff.$$
+  rm -f /tmp/lorb_diff.$$
+  exit 1
+fi
+[ "$lorb_out" = "$gnu_out" ] && exit 0
+echo "outputs differ (GNU first, Lorb++ second):"
+printf '%s\n' "$gnu_out" > /tmp/gnu_diff.$$
+printf '%s\n' "$lorb_out" | diff /tmp/gnu_diff.$$ -
+rm -f /tmp/gnu_diff.$$
+exit 1

@@ -1,0 +1,10 @@
+// In a program that never touched the handler, set_new_handler's first answer is the default one.
+#include <new>
+#include <__lorb/runtime.h>
+#include "lorb_test.h"
+
+TEST(first_set_new_handler_returns_the_default_handler) {
+  std::new_handler previous = std::set_new_handler(0);
+  CHECK(previous == __default_new_handler);
+  CHECK(previous != 0);
+}

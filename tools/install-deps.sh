@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Installs what building and testing Lorb++ needs on a Debian 12 machine; does nothing when all is there.
+set -euo pipefail
+
+packages="g++ g++-multilib cmake make valgrind locales libc6-dbg:i386"
+locales_needed="de_DE.UTF-8 fr_FR.UTF-8 en_US.UTF-8 it_IT.UTF-8"
+
+missing=""
+if ! dpkg --print-foreign-architectures | grep -qx i386; then
+  dpkg --add-architecture i386
+  missing="update"
+fi
+for p in $packages; do
+  dpkg -s "$p" >/dev/null 2>&1 || missing="$missing $p"
+done
+if [ -n "$missing" ]; then
+  export DEBIAN_FRONTEND=noninteractive
+  # A mirror caught mid-sync fails one index; what the other indexes give is enough.
+  apt-get update -q || apt-get update -q || true
+  apt-get install -y -q --no-install-recommends $packages
+fi
+
+# Named locales the tests use; generate only those not yet present.
+have=$(locale -a 2>/dev/null | tr 'A-Z' 'a-z' | sed 's/utf-8/utf8/')
+regen=0
+for l in $locales_needed; do
+  short=$(echo "$l" | tr 'A-Z' 'a-z' | sed 's/utf-8/utf8/')
+  if ! echo "$have" | grep -qx "$short"; then
+    if ! grep -qx "$l UTF-8" /etc/locale.gen 2>/dev/null; then
+      echo "$l UTF-8" >> /etc/locale.gen
+    fi
+    regen=1
+  fi
+done
+[ "$regen" = 0 ] || locale-gen >/dev/null
