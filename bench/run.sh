@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Builds every bench/*.cpp twice (bin/lorb++ and plain g++ -m32, both -O2), runs each build a few
+# times, keeps the best time of each workload and prints both times and their ratio.
+set -euo pipefail
+build_dir=$(cd "${1:-build}" && pwd)
+runs=${BENCH_RUNS:-3}
+out="$build_dir/bench"
+mkdir -p "$out"
+export LORB_BUILD_DIR="$build_dir"
+
+best_times() { # program -> "workload best_ns" lines
+  for _ in $(seq "$runs"); do "$1"; done | awk '
+    { if (!($1 in best) || $2 < best[$1]) best[$1] = $2; if (!($1 in seen)) { seen[$1] = 1; order[n++] = $1 } }
+    END { for (i = 0; i < n; i++) print order[i], best[order[i]] }'
+}
+
+printf '%-40s %14s %14s %8s\n' workload "lorb++ ns/op" "GNU ns/op" ratio
+for source in bench/*.cpp; do
+  name=$(basename "$source" .cpp)
+  bin/lorb++ -O2 -Ibench "$source" -o "$out/${name}_lorb"
+  g++ -m32 -O2 -fno-exceptions -fno-rtti -Ibench "$source" -o "$out/${name}_gnu"
+  join <(best_times "$out/${name}_lorb") <(best_times "$out/${name}_gnu") 2>/dev/null |
+    awk '{ printf "%-40s %14.2f %14.2f %8.2f\n", $1, $2, $3, ($3 > 0 ? $2 / $3 : 0) }'
+done
+echo "(ratio = lorb++ time / GNU time; below 1 means Lorb++ is faster)"
