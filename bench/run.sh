@@ -19,7 +19,9 @@ for source in bench/*.cpp; do
   name=$(basename "$source" .cpp)
   bin/lorb++ -O2 -Ibench "$source" -o "$out/${name}_lorb"
   g++ -m32 -O2 -fno-exceptions -fno-rtti -Ibench "$source" -o "$out/${name}_gnu"
-  join <(best_times "$out/${name}_lorb") <(best_times "$out/${name}_gnu") 2>/dev/null |
-    awk '{ printf "%-40s %14.2f %14.2f %8.2f\n", $1, $2, $3, ($3 > 0 ? $2 / $3 : 0) }'
+  best_times "$out/${name}_gnu" > "$out/${name}_gnu.times"
+  best_times "$out/${name}_lorb" | awk -v gnu="$out/${name}_gnu.times" '
+    BEGIN { while ((getline line < gnu) > 0) { split(line, f, " "); g[f[1]] = f[2] } }
+    { printf "%-40s %14.2f %14.2f %8.2f\n", $1, $2, g[$1], (g[$1] > 0 ? $2 / g[$1] : 0) }'
 done
 echo "(ratio = lorb++ time / GNU time; below 1 means Lorb++ is faster)"
