@@ -4,7 +4,9 @@
 [ "${LORB_MEMCHECK:-0}" = 1 ] || exec "$@"
 logs=${LORB_MEMCHECK_LOGS:-/tmp/lorb-memcheck}/$(basename "$1").$$
 mkdir -p "$logs"
+# Allocation functions a test program defines for itself stay its own under valgrind too.
 valgrind --tool=memcheck --leak-check=full --errors-for-leak-kinds=definite \
+  --soname-synonyms=somalloc=nouserintercepts \
   --log-file="$logs/%p.log" "$@"
 status=$?
 if grep -L 'ERROR SUMMARY: 0 errors' "$logs"/*.log | grep -q .; then
