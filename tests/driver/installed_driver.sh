@@ -1,0 +1,29 @@
+#!/bin/sh
+# Installs the library into a scratch prefix (plainly, and staged under DESTDIR) and builds and
+# runs a program with the installed driver, away from the source tree.
+set -e
+build_dir=$1 work=$2/installed
+rm -rf "$work"
+mkdir -p "$work"
+cmake --install "$build_dir" --prefix "$work/prefix" >/dev/null
+DESTDIR="$work/stage" cmake --install "$build_dir" --prefix /opt/lorb >/dev/null
+cat > "$work/prog.cpp" <<'PROG'
+#include <new>
+#include <cstdio>
+int main() {
+  int* p = new int(41);
+  std::printf("%d\n", *p + 1);
+  delete p;
+  return 0;
+}
+PROG
+for driver in "$work/prefix/bin/lorb++" "$work/stage/opt/lorb/bin/lorb++"; do
+  [ -f "$(dirname "$driver")/../include/lorb++/new" ] || { echo "headers not installed"; exit 1; }
+  env -u LORB_BUILD_DIR "$driver" -std=c++98 -O2 "$work/prog.cpp" -o "$work/prog"
+  out=$("$work/prog")
+  [ "$out" = 42 ] || { echo "installed program printed '$out'"; exit 1; }
+  ldd "$work/prog" | grep -q "$(dirname "$driver")/../lib/liblorb++.so.1" ||
+    ldd "$work/prog" | grep -q "liblorb++.so.1 => $work" ||
+    { echo "not linked against the installed library:"; ldd "$work/prog"; exit 1; }
+done
+echo "installed driver ok"

@@ -1,0 +1,24 @@
+#!/bin/sh
+# The library's dynamic interface: every run-time entry point exported under its exact name,
+# only the C library needed, a soname, and no symbolic binding.
+lib=$1
+status=0
+exported=$(nm -D --defined-only "$lib" | awk '{print $3}')
+for name in __record_needed_destruction __vel_std_atexit __process_needed_destructions \
+  __std__needed_destruction_list __call_ctors __call_dtors _main _Z4exiti __plo_exit \
+  __process_shared_object_destruction __pure_virtual_called __eh_exit_processing \
+  __already_marked_for_destruction __main_called_more_than_once __cxa_pure_virtual \
+  __vec_new __vec_new_eh __vec_cctor __vec_cctor_eh __vec_delete __array_new \
+  __placement_array_new __array_delete __vel_fast_vec_new __vel_fast_vec_delete \
+  __array_new_prefix_size _array_pointer_not_from_vec_new _new_handler __default_new_handler \
+  call_new_handler __memzero _Znwj _ZnwjRKSt9nothrow_t _Znaj _ZnajRKSt9nothrow_t _ZdlPv _ZdaPv \
+  _ZdlPvS_ _ZdlPvj _ZdaPvj _ZSt15set_new_handlerPFvvE _ZSt7nothrow; do
+  echo "$exported" | grep -qx "$name" || { echo "not exported: $name"; status=1; }
+done
+needed=$(readelf -d "$lib" | awk '/NEEDED/ {print $5}')
+[ "$needed" = "[libc.so.6]" ] || { echo "needs more than the C library: $needed"; status=1; }
+readelf -d "$lib" | grep -q 'SONAME.*\[liblorb++.so.1\]' || { echo "soname is not liblorb++.so.1"; status=1; }
+readelf -d "$lib" | grep -qE 'SYMBOLIC' && { echo "built with symbolic binding"; status=1; }
+readelf -h "$lib" | grep -q 'Machine:.*80386' || { echo "not an i386 object"; status=1; }
+[ $status = 0 ] && echo "library interface ok"
+exit $status
