@@ -4,6 +4,7 @@
 
 #include <__lorb/config.h>
 #include <__lorb/error.h>
+#include <__lorb/exception_classes.h>
 #include <__lorb/lw_vector.h>
 #include <cstddef>
 #include <string>
@@ -78,8 +79,12 @@ private:
 // value of a process-wide counter, so numbers follow the order of first use.
 class __LORB_EXPORT locale::id {
 public:
-  // Ids are static members: zero-initialised storage, which this constructor leaves alone.
-  id() {}
+  // Ids are static members, zero before any use.
+#if __cplusplus >= 201103L
+  constexpr id() : __value(0) {}
+#else
+  id() {} // static storage is zero already; writing it here could undo an earlier numbering
+#endif
 
   // Gives this id the next number; called only while it is 0.
   void init() const;
@@ -124,7 +129,7 @@ inline locale::facet* locale::__find(const id& i) const {
 template <class _Facet> inline const _Facet& use_facet(const locale& loc) {
   locale::facet* found = loc.__find(_Facet::id);
   if (!found)
-    __vel::throw_with_exceptions_disabled("bad_cast", __vel::facet_not_present_message);
+    bad_cast::__throw(__vel::facet_not_present_message);
   return static_cast<const _Facet&>(*found);
 }
 

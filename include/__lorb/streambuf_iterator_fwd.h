@@ -1,0 +1,13 @@
+// Declarations ahead of the stream-buffer iterators, which the facets name as their iterator types.
+#ifndef __LORB_STREAMBUF_ITERATOR_FWD_H
+#define __LORB_STREAMBUF_ITERATOR_FWD_H
+
+namespace std {
+template <class _CharT> struct char_traits;
+// No default arguments here: the header that defines the iterators gives them.
+template <class _CharT, class _Traits> class istreambuf_iterator;
+template <class _CharT, class _Traits> class ostreambuf_iterator;
+class ios_base;
+} // namespace std
+
+#endif
