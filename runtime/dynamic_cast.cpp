@@ -68,6 +68,7 @@ const std::type_info* __get_typeid(const __lorb_vtbl_entry* vtbl) {
   return vtbl[0].type;
 }
 
+// A slot that holds a null object is answered like a question about the types: result 0.
 int __derived_to_base_conversion(void** object_slot, void** result_slot,
                                  const std::type_info* derived, const std::type_info* base,
                                  const char** access_cursor, int use_access) {

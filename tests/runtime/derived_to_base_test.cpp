@@ -176,6 +176,13 @@ TEST(type_only_query_answers_and_leaves_result_zero) {
   CHECK(s.result == 0);
 }
 
+TEST(null_object_in_the_slot_is_answered_like_a_type_only_query) {
+  stream_records streams;
+  search s = convert(0, streams.iostream, streams.ios_base); // no virtual base pointer is read
+  CHECK_EQ(s.found, 1);
+  CHECK(s.result == 0);
+}
+
 TEST(private_base_is_not_found) {
   __lorb_type_record b = make_record("B", &id_b);
   __lorb_base_entry d_bases[] = {base_entry(b, 0, 0x12)};
