@@ -4,8 +4,10 @@
 #include <string.h>
 #include <string>
 
+typedef std::collate<char> collate_facet;
+
 int main() {
-  const std::collate<char>& co = std::use_facet<std::collate<char>>(std::locale::classic());
+  const std::collate<char>& co = std::use_facet<collate_facet>(std::locale::classic());
   const char* pairs[][2] = {{"abc", "abd"}, {"abd", "abc"}, {"abc", "abc"}, {"", "a"},
                             {"B", "a"},     {"a", "zzzz"},  {"abc", "ab"}};
   for (int i = 0; i < 7; ++i) {

@@ -3,8 +3,10 @@
 #include <stdio.h>
 #include <string.h>
 
+typedef std::collate<char> collate_facet;
+
 int main() {
-  const std::collate<char>& co = std::use_facet<std::collate<char>>(std::locale::classic());
+  const std::collate<char>& co = std::use_facet<collate_facet>(std::locale::classic());
   const char* texts[] = {
       "", "a", "abcd", "hello world", "\xff\xfe\xfd\xfc\x80", "Lorb++ collate hash"};
   for (int i = 0; i < 6; ++i)

@@ -4,8 +4,10 @@
 #include <stdio.h>
 #include <string>
 
+typedef std::numpunct<char> numpunct_facet;
+
 static void show(const char* title, const std::locale& loc) {
-  const std::numpunct<char>& np = std::use_facet<std::numpunct<char>>(loc);
+  const std::numpunct<char>& np = std::use_facet<numpunct_facet>(loc);
   std::string grouping = np.grouping();
   printf("%s: decimal '%c' grouping [", title, np.decimal_point());
   for (std::string::size_type i = 0; i < grouping.size(); ++i)
@@ -16,7 +18,7 @@ static void show(const char* title, const std::locale& loc) {
 static void show_separator(const char* name) {
   std::locale loc(name);
   printf("%s: separator %02x\n", name,
-         static_cast<unsigned char>(std::use_facet<std::numpunct<char>>(loc).thousands_sep()));
+         static_cast<unsigned char>(std::use_facet<numpunct_facet>(loc).thousands_sep()));
 }
 
 int main() {

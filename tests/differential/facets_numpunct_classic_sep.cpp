@@ -2,8 +2,10 @@
 #include <locale>
 #include <stdio.h>
 
+typedef std::numpunct<char> numpunct_facet;
+
 int main() {
-  const std::numpunct<char>& np = std::use_facet<std::numpunct<char>>(std::locale::classic());
+  const std::numpunct<char>& np = std::use_facet<numpunct_facet>(std::locale::classic());
   printf("separator %02x\n", static_cast<unsigned char>(np.thousands_sep()));
   return 0;
 }
