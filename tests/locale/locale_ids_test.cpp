@@ -1,76 +1,73 @@
-// Facet ids are numbered in order of first use: each case runs a fresh helper program.
+// Facet ids are numbered in order of first use. This program touches no facet outside its
+// isolated tests, so each of them starts, in its own child, from a process that never used one.
+#include "locale_test_support.h"
 #include "lorb_test.h"
-#include <limits.h>
+#include <locale>
 #include <stdio.h>
 #include <string.h>
-#include <unistd.h>
 
-// Runs the helper built beside this test and returns what it printed (at most 4 KiB).
-static const char* output_of(const char* helper) {
-  static char text[4096];
-  char path[PATH_MAX];
-  ssize_t length = readlink("/proc/self/exe", path, sizeof path - 1);
-  CHECK(length > 0);
-  path[length > 0 ? length : 0] = 0;
-  char* slash = strrchr(path, '/');
-  strcpy(slash ? slash + 1 : path, helper);
-  FILE* pipe = popen(path, "r");
-  CHECK(pipe != 0);
-  size_t got = pipe ? fread(text, 1, sizeof text - 1, pipe) : 0;
-  text[got] = 0;
-  if (pipe)
-    CHECK_EQ(pclose(pipe), 0);
-  return text;
+static char listing[2048];
+
+static void list(const char* line, unsigned value) {
+  size_t used = strlen(listing);
+  snprintf(listing + used, sizeof listing - used, "%s %u\n", line, value);
 }
 
-TEST(the_first_locale_numbers_the_standard_facets_1_to_12_in_creation_order) {
-  CHECK_STR(output_of("helper_locale_ids_classic_first"), "global before: null\n"
-                                                          "numpunct 0\n"
-                                                          "num_get 0\n"
-                                                          "num_put 0\n"
-                                                          "ctype 0\n"
-                                                          "codecvt 0\n"
-                                                          "collate 0\n"
-                                                          "time_put 0\n"
-                                                          "time_get 0\n"
-                                                          "moneypunct<true> 0\n"
-                                                          "moneypunct<false> 0\n"
-                                                          "money_put 0\n"
-                                                          "money_get 0\n"
-                                                          "global after: classic\n"
-                                                          "numpunct 1\n"
-                                                          "num_get 2\n"
-                                                          "num_put 3\n"
-                                                          "ctype 4\n"
-                                                          "codecvt 5\n"
-                                                          "collate 6\n"
-                                                          "time_put 7\n"
-                                                          "time_get 8\n"
-                                                          "moneypunct<true> 9\n"
-                                                          "moneypunct<false> 10\n"
-                                                          "money_put 11\n"
-                                                          "money_get 12\n"
-                                                          "table size 13\n");
+// The ids of the twelve standard facets, in the order a locale creates them.
+static void list_standard_ids() {
+  list("numpunct", std::numpunct<char>::id.__value);
+  list("num_get", num_get_facet::id.__value);
+  list("num_put", num_put_facet::id.__value);
+  list("ctype", std::ctype<char>::id.__value);
+  list("codecvt", codecvt_facet::id.__value);
+  list("collate", std::collate<char>::id.__value);
+  list("time_put", time_put_facet::id.__value);
+  list("time_get", time_get_facet::id.__value);
+  list("moneypunct<true>", std::moneypunct<char, true>::id.__value);
+  list("moneypunct<false>", std::moneypunct<char, false>::id.__value);
+  list("money_put", money_put_facet::id.__value);
+  list("money_get", money_get_facet::id.__value);
 }
 
-TEST(facets_used_before_any_locale_keep_their_earlier_numbers_and_the_table_grows) {
-  CHECK_STR(output_of("helper_locale_ids_user_first"), "own 1\n"
-                                                       "collate 2\n"
-                                                       "numpunct 3\n"
-                                                       "num_get 4\n"
-                                                       "num_put 5\n"
-                                                       "ctype 6\n"
-                                                       "codecvt 7\n"
-                                                       "collate 2\n"
-                                                       "time_put 8\n"
-                                                       "time_get 9\n"
-                                                       "moneypunct<true> 10\n"
-                                                       "moneypunct<false> 11\n"
-                                                       "money_put 12\n"
-                                                       "money_get 13\n"
-                                                       "table size 14\n"
-                                                       "own held: 0\n"
-                                                       "later held: 0\n"
-                                                       "later 14\n"
-                                                       "table size 14\n");
+ISOLATED_TEST(the_first_locale_numbers_the_standard_facets_1_to_12_in_creation_order) {
+  CHECK(std::locale::global_ == 0);
+  list_standard_ids();
+  std::locale first;
+  CHECK(std::locale::global_ == std::locale::classic().__imp);
+  list_standard_ids();
+  list("table size", first.__imp->facets.size);
+  CHECK_STR(listing, "numpunct 0\nnum_get 0\nnum_put 0\nctype 0\ncodecvt 0\ncollate 0\n"
+                     "time_put 0\ntime_get 0\nmoneypunct<true> 0\nmoneypunct<false> 0\n"
+                     "money_put 0\nmoney_get 0\n"
+                     "numpunct 1\nnum_get 2\nnum_put 3\nctype 4\ncodecvt 5\ncollate 6\n"
+                     "time_put 7\ntime_get 8\nmoneypunct<true> 9\nmoneypunct<false> 10\n"
+                     "money_put 11\nmoney_get 12\n"
+                     "table size 13\n");
+}
+
+struct own_facet : std::locale::facet {
+  static std::locale::id id;
+};
+std::locale::id own_facet::id;
+
+struct later_facet : std::locale::facet {
+  static std::locale::id id;
+};
+std::locale::id later_facet::id;
+
+ISOLATED_TEST(facets_used_before_any_locale_keep_their_numbers_and_the_table_grows_to_fit) {
+  list("own", own_facet::id.__number());
+  list("collate", std::collate<char>::id.__number());
+  std::locale named("en_US.UTF-8");
+  list_standard_ids();
+  list("table size", named.__imp->facets.size);
+  CHECK(!std::has_facet<own_facet>(named)); // slot 1 is inside the table but empty
+  CHECK(!std::has_facet<later_facet>(named));
+  list("later", later_facet::id.__value);
+  list("table size", named.__imp->facets.size);
+  CHECK_STR(listing, "own 1\ncollate 2\n"
+                     "numpunct 3\nnum_get 4\nnum_put 5\nctype 6\ncodecvt 7\ncollate 2\n"
+                     "time_put 8\ntime_get 9\nmoneypunct<true> 10\nmoneypunct<false> 11\n"
+                     "money_put 12\nmoney_get 13\n"
+                     "table size 14\nlater 14\ntable size 14\n");
 }
