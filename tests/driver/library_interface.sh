@@ -12,7 +12,11 @@ for name in __record_needed_destruction __vel_std_atexit __process_needed_destru
   __placement_array_new __array_delete __vel_fast_vec_new __vel_fast_vec_delete \
   __array_new_prefix_size _array_pointer_not_from_vec_new _new_handler __default_new_handler \
   call_new_handler __memzero _Znwj _ZnwjRKSt9nothrow_t _Znaj _ZnajRKSt9nothrow_t _ZdlPv _ZdaPv \
-  _ZdlPvS_ _ZdlPvj _ZdaPvj _ZSt15set_new_handlerPFvvE _ZSt7nothrow; do
+  _ZdlPvS_ _ZdlPvj _ZdaPvj _ZSt15set_new_handlerPFvvE _ZSt7nothrow \
+  __get_typeid __derived_to_base_conversion __dynamic_cast __dynamic_cast_ref __throw_bad_cast \
+  __throw_bad_typeid __vtbl__Q2_3std9type_info __T_Q2_3std9type_info __TID_Q2_3std9type_info \
+  __T_Q2_3std9exception __TID_Q2_3std9exception __T_Q2_3std9bad_alloc __TID_Q2_3std9bad_alloc \
+  __T_Q2_3std8bad_cast __TID_Q2_3std8bad_cast __T_Q2_3std10bad_typeid __TID_Q2_3std10bad_typeid; do
   echo "$exported" | grep -qx "$name" || { echo "not exported: $name"; status=1; }
 done
 needed=$(readelf -d "$lib" | awk '/NEEDED/ {print $5}')
