@@ -17,8 +17,11 @@ __LORB_EXPORT __LORB_NORETURN void facet_operation_not_built(const char* operati
 
 namespace std {
 
-#define __LORB_INPUT_ITERATOR(_CharT) istreambuf_iterator<_CharT, char_traits<_CharT>>
-#define __LORB_OUTPUT_ITERATOR(_CharT) ostreambuf_iterator<_CharT, char_traits<_CharT>>
+// The space in "> >" is needed by C++98.
+// clang-format off
+#define __LORB_INPUT_ITERATOR(_CharT) istreambuf_iterator<_CharT, char_traits<_CharT> >
+#define __LORB_OUTPUT_ITERATOR(_CharT) ostreambuf_iterator<_CharT, char_traits<_CharT> >
+// clang-format on
 #define __LORB_NOT_BUILT(operation) __vel::facet_operation_not_built(operation)
 
 // The ids live in the library, for the char instances over the stream-buffer iterators. The
