@@ -103,6 +103,11 @@ inline string_reverse_iterator<_P, _R> operator+(std::ptrdiff_t n,
   return i + n;
 }
 
+// Members taking a string iterator are templates that accept exactly char*: a literal 0 given as
+// a position then never converts to a null iterator and makes the call ambiguous.
+template <class _Iter, class _Result> struct string_iterator_only {};
+template <class _Result> struct string_iterator_only<char*, _Result> { typedef _Result type; };
+
 // Tag types for the range members: an integer pair means (count, character).
 struct string_integer_args {};
 struct string_iterator_args {};
