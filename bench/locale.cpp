@@ -1,9 +1,9 @@
 // Locale costs: copying and destroying a handle, facet lookup, building a named locale.
 #include "bench.h"
+#include <locale>
 
 typedef std::ctype<char> ctype_facet;
 typedef std::numpunct<char> numpunct_facet;
-#include <locale>
 
 int main() {
   std::locale global;
