@@ -18,7 +18,10 @@ template <class _CharT, class _Traits, class _Alloc> class basic_string;
 // the two fields keep their written order after it.
 class __LORB_EXPORT exception {
 public:
-  typedef basic_string<char, char_traits<char>, allocator<char>> __string_type;
+  // The blank between the closing brackets is needed in C++98.
+  // clang-format off
+  typedef basic_string<char, char_traits<char>, allocator<char> > __string_type;
+  // clang-format on
 
   // Generated inline in programs: no message, nothing owned.
   exception() __LORB_NOEXCEPT : __message(0), __owns_message(false) {}
