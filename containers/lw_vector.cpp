@@ -1,8 +1,10 @@
 // The light-weight vector's two operations and the library's four instantiations of it.
 #include <__lorb/error.h>
 #include <__lorb/locale_core.h>
+#include <__lorb/ios_base_fwd.h>
 #include <__lorb/lw_vector.h>
 #include <new>
+#include <utility>
 
 namespace __vel {
 namespace {
@@ -73,8 +75,8 @@ template <class _T> void lw_vector<_T>::assign(const lw_vector& source, unsigned
     new (data + size) _T(source.data[size]);
 }
 
-// The instance over ios_base's callback pairs waits for std::pair (<utility>).
 template class lw_vector<std::locale::facet*>;
+template class lw_vector<std::pair<ios_event_callback, int> >;
 template class lw_vector<long>;
 template class lw_vector<void*>;
 

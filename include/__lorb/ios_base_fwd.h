@@ -2,14 +2,16 @@
 #ifndef __LORB_IOS_BASE_FWD_H
 #define __LORB_IOS_BASE_FWD_H
 
+#include <__lorb/config.h>
+
 namespace std {
-class ios_base;
+class __LORB_EXPORT ios_base;
 }
 
 namespace __vel {
 // std::ios_base derives from this holder, so std::ios_base::event, erase_event and imbue_event
 // name these; a nested enum cannot be declared ahead of its class any other way.
-struct ios_base_events {
+struct __LORB_EXPORT ios_base_events {
   enum event { erase_event = 0, imbue_event = 1 };
 };
 

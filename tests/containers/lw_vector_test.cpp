@@ -1,6 +1,8 @@
 // The light-weight vector: exact-size buffers, the resize and assign rules, allocation failure.
 #include "lorb_test.h"
+#include <__lorb/ios_base_fwd.h>
 #include <__lorb/lw_vector.h>
+#include <utility>
 #include <new>
 #include <stddef.h>
 #include <stdlib.h>
@@ -277,6 +279,30 @@ TEST(pointer_elements_are_copied_as_they_are) {
   CHECK(copy.data[3] == &b);
   v.resize(0, 0);
   copy.resize(0, 0);
+}
+
+static void first_callback(__vel::ios_base_events::event, std::ios_base&, int) {}
+static void second_callback(__vel::ios_base_events::event, std::ios_base&, int) {}
+typedef std::pair<__vel::ios_event_callback, int> callback_entry;
+
+TEST(callback_pairs_are_eight_bytes_and_grow_exactly) {
+  CHECK_EQ(sizeof(callback_entry), 8u);
+  __vel::lw_vector<callback_entry> callbacks;
+  unsigned before = news;
+  callbacks.resize(1, callback_entry(first_callback, 7));
+  CHECK_EQ(last_request, 8u);
+  callbacks.resize(2, callback_entry(second_callback, 9));
+  CHECK_EQ(last_request, 16u);
+  CHECK_EQ(news, before + 2);
+  CHECK(callbacks.data[0].first == first_callback);
+  CHECK_EQ(callbacks.data[0].second, 7);
+  CHECK(callbacks.data[1].first == second_callback);
+  CHECK_EQ(callbacks.data[1].second, 9);
+  __vel::lw_vector<callback_entry> copy;
+  copy.assign(callbacks, callbacks.size);
+  CHECK(copy.data[1].first == second_callback);
+  callbacks.resize(0, callback_entry());
+  copy.resize(0, callback_entry());
 }
 
 static void grow_with_memory_refused() {
