@@ -39,7 +39,7 @@ public:
   static void __issue_msg_to_stderr(const char* text);
 
 private:
-  void __copy_message_from(const exception& other);
+  __attribute__((__visibility__("hidden"))) void __copy_message_from(const exception& other);
 
   __string_type* __message;
   bool __owns_message;
