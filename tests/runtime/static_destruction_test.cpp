@@ -41,11 +41,25 @@ ISOLATED_TEST(list_runs_in_reverse_order_of_recording) {
 }
 
 ISOLATED_TEST(run_nodes_keep_a_non_zero_next_word) {
+  static node na = {0, &a, destroy_named}, nb = {0, &b, destroy_named};
+  __record_needed_destruction(&na);
+  __record_needed_destruction(&nb);
+  CHECK(nb.next == &na);
+  node* before_a = na.next; // whatever the library recorded as it loaded
+  CHECK(before_a != 0);
+  __process_needed_destructions();
+  CHECK(nb.next == &na);
+  CHECK(na.next == before_a);
+}
+
+ISOLATED_TEST(the_end_marker_is_17_not_0) {
+  __process_needed_destructions(); // empties the list, the library's own records included
   static node na = {0, &a, destroy_named};
   __record_needed_destruction(&na);
-  CHECK_EQ(reinterpret_cast<unsigned>(na.next), 17u); // the end marker, not 0
+  CHECK_EQ(reinterpret_cast<unsigned>(na.next), 17u);
   __process_needed_destructions();
   CHECK_EQ(reinterpret_cast<unsigned>(na.next), 17u);
+  CHECK_STR(trace, "A");
 }
 
 static node late_node = {0, &d, destroy_named};
