@@ -8,6 +8,15 @@ static bool among(char c, const char* set, size_type n) {
   return string::traits_type::find(set, n, c) != 0;
 }
 
+// Compares after a first-character hit; most hits fail within a few characters, so a plain loop
+// costs less than a call.
+static bool rest_matches(const char* at, const char* pattern, size_type n) {
+  for (size_type i = 1; i < n; ++i)
+    if (at[i] != pattern[i])
+      return false;
+  return true;
+}
+
 // Kept: an empty pattern is never found, not even at pos.
 size_type string::find(const char* s, size_type pos, size_type n) const {
   size_type length = __r->length;
@@ -17,10 +26,12 @@ size_type string::find(const char* s, size_type pos, size_type n) const {
   const char* last_start = text + (length - n);
   const char* at = text + pos;
   while (at <= last_start) {
-    at = traits_type::find(at, last_start - at + 1, s[0]);
-    if (!at)
-      return npos;
-    if (traits_type::compare(at + 1, s + 1, n - 1) == 0)
+    if (*at != s[0]) { // a hit at once is common and needs no call
+      at = traits_type::find(at, last_start - at + 1, s[0]);
+      if (!at)
+        return npos;
+    }
+    if (rest_matches(at, s, n))
       return at - text;
     ++at;
   }

@@ -197,3 +197,27 @@ TEST(unchanged_mutations_do_not_unshare) {
   CHECK(a.data() == b.data());
   CHECK_EQ(rep_of(a)->refs, 2u);
 }
+
+TEST(push_back_takes_a_private_copy_of_a_shared_string) {
+  std::string a("push"), b(a);
+  b.push_back('!');
+  b += '?';
+  CHECK_STR(a.c_str(), "push");
+  CHECK_STR(b.c_str(), "push!?");
+  CHECK_EQ(rep_of(a)->refs, 1u);
+  std::string empty, c;
+  c += 'x';
+  CHECK(rep_of(c) != rep_of(empty));
+  CHECK_EQ(empty.size(), 0u);
+  CHECK_STR(empty.c_str(), "");
+}
+
+TEST(push_back_on_an_unshareable_string_stays_in_place_and_unshareable) {
+  std::string s("ab");
+  s[0] = 'A';
+  const char* buffer = s.data();
+  s.push_back('c');
+  CHECK(s.data() == buffer);
+  CHECK_EQ(rep_of(s)->refs, unshareable_refs);
+  CHECK_STR(s.c_str(), "Abc");
+}
