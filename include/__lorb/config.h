@@ -1,4 +1,4 @@
-// Settings every Lorb++ header shares: export marking and the exception-specification spellings.
+// Settings every Lorb++ header shares: export marking and the throw()/noexcept spellings.
 #ifndef __LORB_CONFIG_H
 #define __LORB_CONFIG_H
 
