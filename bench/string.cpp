@@ -1,7 +1,7 @@
 // std::string workloads: copying, growing one character at a time, searching, comparing and
 // taking substrings.
-#include <string>
 #include "bench.h"
+#include <string>
 
 static void copy_100() {
   const std::string source(100, 'c');

@@ -1,7 +1,7 @@
 // The light-weight vector's two operations and the library's four instantiations of it.
 #include <__lorb/error.h>
-#include <__lorb/locale_core.h>
 #include <__lorb/ios_base_fwd.h>
+#include <__lorb/locale_core.h>
 #include <__lorb/lw_vector.h>
 #include <new>
 #include <utility>

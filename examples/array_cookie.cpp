@@ -1,7 +1,7 @@
 // Builds an array of class objects through the run-time's array helpers, shows the two-word
 // cookie in front of it, and destroys it again reading the count back from the cookie.
-#include <cstdio>
 #include <__lorb/runtime.h>
+#include <cstdio>
 
 struct point {
   int x, y, z;
@@ -22,8 +22,8 @@ static void destroy_point(void* element, int flags) {
 int main() {
   point* points = static_cast<point*>(__vec_new(0, 3, sizeof(point), construct_point));
   const unsigned* cookie = reinterpret_cast<const unsigned*>(points) - 2;
-  std::printf("cookie: byte total %u, complemented count 0x%08x (count %u)\n", cookie[0],
-              cookie[1], ~cookie[1]);
+  std::printf("cookie: byte total %u, complemented count 0x%08x (count %u)\n", cookie[0], cookie[1],
+              ~cookie[1]);
   __vec_delete(points, -1, sizeof(point), destroy_point, 1);
   return 0;
 }

@@ -1,8 +1,8 @@
 // Records three static objects for destruction, the way compiled code does, and lets exit
 // destroy them: the most recently recorded goes first.
+#include <__lorb/runtime.h>
 #include <cstdio>
 #include <new>
-#include <__lorb/runtime.h>
 
 struct announcer {
   const char* name;

@@ -8,8 +8,8 @@
 
 namespace std {
 
-typedef istreambuf_iterator<char, char_traits<char>> __input_iterator;
-typedef ostreambuf_iterator<char, char_traits<char>> __output_iterator;
+typedef istreambuf_iterator<char, char_traits<char> > __input_iterator;
+typedef ostreambuf_iterator<char, char_traits<char> > __output_iterator;
 
 // The name stays other's: no combined name is composed.
 locale::locale(const locale& other, const char* std_name, category cats)

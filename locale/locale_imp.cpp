@@ -8,8 +8,8 @@
 namespace std {
 namespace {
 
-typedef istreambuf_iterator<char, char_traits<char>> input_iterator;
-typedef ostreambuf_iterator<char, char_traits<char>> output_iterator;
+typedef istreambuf_iterator<char, char_traits<char> > input_iterator;
+typedef ostreambuf_iterator<char, char_traits<char> > output_iterator;
 
 // Index 0 unused, then one slot for each of the twelve standard facets.
 const unsigned standard_table_size = 13;

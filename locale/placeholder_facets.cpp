@@ -11,8 +11,8 @@ void facet_operation_not_built(const char* operation) {
 } // namespace __vel
 
 namespace std {
-typedef istreambuf_iterator<char, char_traits<char>> __input_iterator;
-typedef ostreambuf_iterator<char, char_traits<char>> __output_iterator;
+typedef istreambuf_iterator<char, char_traits<char> > __input_iterator;
+typedef ostreambuf_iterator<char, char_traits<char> > __output_iterator;
 
 template <> __LORB_EXPORT locale::id num_get<char, __input_iterator>::id = locale::id();
 template <> __LORB_EXPORT locale::id num_put<char, __output_iterator>::id = locale::id();

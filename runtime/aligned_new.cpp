@@ -1,7 +1,7 @@
 // The over-aligned allocation functions that C++17 code calls; they run the plain handler loop.
+#include <__lorb/runtime.h>
 #include <new>
 #include <stdlib.h>
-#include <__lorb/runtime.h>
 
 static void* allocate_aligned(std::size_t size, std::align_val_t alignment, bool nothrow) {
   std::size_t align = static_cast<std::size_t>(alignment);
@@ -32,8 +32,7 @@ void* operator new[](std::size_t size, std::align_val_t alignment) {
   return allocate_aligned(size, alignment, false);
 }
 
-void* operator new[](std::size_t size, std::align_val_t alignment,
-                     const std::nothrow_t&) noexcept {
+void* operator new[](std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
   return allocate_aligned(size, alignment, true);
 }
 

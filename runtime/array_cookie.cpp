@@ -1,7 +1,7 @@
 // Construction and destruction of arrays of class objects, with the element-count cookie.
+#include <__lorb/runtime.h>
 #include <new>
 #include <stdlib.h>
-#include <__lorb/runtime.h>
 
 extern "C" const int __array_new_prefix_size = 8;
 
@@ -26,8 +26,8 @@ static bool cookie_is_valid(const __lorb_array_cookie* cookie, unsigned size) {
 extern "C" void _array_pointer_not_from_vec_new() { abort(); }
 
 // The one construction routine behind every entry point.
-static void* construct_array(int count, unsigned size, void* storage, char* source,
-                             void* ctor, __lorb_alloc_fn alloc, bool cookie_in_storage) {
+static void* construct_array(int count, unsigned size, void* storage, char* source, void* ctor,
+                             __lorb_alloc_fn alloc, bool cookie_in_storage) {
   if (storage) {
     if (cookie_in_storage)
       write_cookie(storage, count, size);
@@ -148,8 +148,8 @@ void __array_delete(void* array, int count, unsigned size, __lorb_element_dtor d
   destroy_array(array, count, size, dtor, 1, dealloc, size_flag);
 }
 
-void __vel_fast_vec_delete(void* array, int count, unsigned size,
-                           __lorb_whole_array_fn whole_dtor, int delete_flag, int) {
+void __vel_fast_vec_delete(void* array, int count, unsigned size, __lorb_whole_array_fn whole_dtor,
+                           int delete_flag, int) {
   if (!array)
     return;
   unsigned byte_total;

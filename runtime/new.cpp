@@ -1,8 +1,8 @@
 // The global allocation functions and the new-handler loop they run on exhausted memory.
+#include <__lorb/runtime.h>
 #include <new>
 #include <stdlib.h>
 #include <string.h>
-#include <__lorb/runtime.h>
 
 extern "C" {
 __lorb_handler_fn _new_handler = __default_new_handler;

@@ -1,6 +1,6 @@
 // The traps placed in the virtual-table slots of pure virtual and deleted functions.
-#include <stdlib.h>
 #include <__lorb/runtime.h>
+#include <stdlib.h>
 
 extern "C" {
 void __pure_virtual_called() { abort(); }

@@ -1,6 +1,6 @@
 // Start-up: the once-only _main and the scheduling of the destruction walk with atexit.
-#include <stdlib.h>
 #include <__lorb/runtime.h>
+#include <stdlib.h>
 
 extern "C" {
 int __dtor_processing_scheduled = 0;

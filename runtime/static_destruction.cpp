@@ -1,6 +1,6 @@
 // The needed-destruction list: static objects and atexit functions, run once in reverse order.
-#include <stdlib.h>
 #include <__lorb/runtime.h>
+#include <stdlib.h>
 
 typedef __lorb_destruction_node node;
 

@@ -1,6 +1,6 @@
 // The guards g++ puts around a local static's first construction; one thread, so no locking.
-#include <stdlib.h>
 #include <__lorb/config.h>
+#include <stdlib.h>
 
 // The guard's first byte says the object is built; its second says construction is under way.
 extern "C" {

@@ -6,15 +6,16 @@
 
 namespace __vel {
 // The fixed message texts, exported so that template code in programs prints the same bytes.
-extern __LORB_EXPORT const char out_of_range_message[];           // "Out of range exception occurred"
+extern __LORB_EXPORT const char out_of_range_message[]; // "Out of range exception occurred"
 extern __LORB_EXPORT const char container_out_of_range_message[]; // "Out of range exception\n"
-extern __LORB_EXPORT const char bitset_out_of_range_message[];    // "Out of range exception occured."
-extern __LORB_EXPORT const char length_error_message[];           // "Length exception occurred"
-extern __LORB_EXPORT const char invalid_value_message[];          // "Invalid value in the string"
-extern __LORB_EXPORT const char bitset_overflow_message[];        // "Bitset can not be converted"
-extern __LORB_EXPORT const char facet_not_present_message[];      // "Facet not present\n"
-extern __LORB_EXPORT const char invalid_locale_name_message[];    // "Invalid locale name\n"
-extern __LORB_EXPORT const char out_of_memory_message[]; // "Lorb++ : Could not allocate  memory ...\n"
+extern __LORB_EXPORT const char bitset_out_of_range_message[]; // "Out of range exception occured."
+extern __LORB_EXPORT const char length_error_message[];        // "Length exception occurred"
+extern __LORB_EXPORT const char invalid_value_message[];       // "Invalid value in the string"
+extern __LORB_EXPORT const char bitset_overflow_message[];     // "Bitset can not be converted"
+extern __LORB_EXPORT const char facet_not_present_message[];   // "Facet not present\n"
+extern __LORB_EXPORT const char invalid_locale_name_message[]; // "Invalid locale name\n"
+extern __LORB_EXPORT const char
+    out_of_memory_message[]; // "Lorb++ : Could not allocate  memory ...\n"
 
 // Prints "class: message\n" on standard error and aborts.
 __LORB_EXPORT __LORB_NORETURN void throw_with_exceptions_disabled(const char* class_name,

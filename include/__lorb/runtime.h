@@ -13,7 +13,7 @@ struct __lorb_destruction_node {
 
 // The two words in front of a heap array's first element.
 struct __lorb_array_cookie {
-  unsigned byte_total;       // count times element size
+  unsigned byte_total;         // count times element size
   unsigned complemented_count; // ~count
 };
 
@@ -52,8 +52,8 @@ extern __LORB_EXPORT int __dtor_processing_scheduled;
 // Array construction and destruction.
 extern __LORB_EXPORT const int __array_new_prefix_size;
 __LORB_EXPORT void* __vec_new(void* storage, int count, unsigned size, __lorb_element_ctor ctor);
-__LORB_EXPORT void* __vec_new_eh(void* storage, int count, unsigned size,
-                                 __lorb_element_ctor ctor, __lorb_element_dtor dtor);
+__LORB_EXPORT void* __vec_new_eh(void* storage, int count, unsigned size, __lorb_element_ctor ctor,
+                                 __lorb_element_dtor dtor);
 __LORB_EXPORT void* __array_new(int count, unsigned size, __lorb_element_ctor ctor,
                                 __lorb_element_dtor dtor, __lorb_alloc_fn alloc,
                                 __lorb_dealloc_fn dealloc, int size_flag);
@@ -62,8 +62,8 @@ __LORB_EXPORT void* __placement_array_new(void* storage, int count, unsigned siz
 __LORB_EXPORT void* __vec_cctor_eh(void* storage, int count, unsigned size,
                                    __lorb_element_cctor cctor, void* source,
                                    __lorb_element_dtor dtor);
-__LORB_EXPORT void __vec_cctor(void* storage, int count, unsigned size,
-                               __lorb_element_cctor cctor, void* source);
+__LORB_EXPORT void __vec_cctor(void* storage, int count, unsigned size, __lorb_element_cctor cctor,
+                               void* source);
 __LORB_EXPORT void* __vel_fast_vec_new(void* storage, int count, unsigned size,
                                        __lorb_whole_array_fn whole_ctor);
 __LORB_EXPORT void __vec_delete(void* array, int count, unsigned size, __lorb_element_dtor dtor,

@@ -2,10 +2,10 @@
 #include "lorb_test.h"
 #include <__lorb/ios_base_fwd.h>
 #include <__lorb/lw_vector.h>
-#include <utility>
 #include <new>
 #include <stddef.h>
 #include <stdlib.h>
+#include <utility>
 
 // The program's own operator new and delete replace the library's, so the test sees every
 // buffer the vector takes and gives back, and can make the next request fail.

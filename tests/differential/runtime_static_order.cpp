@@ -26,9 +26,7 @@ int main() {
   local_static();
   local_static();
   std::atexit(at_exit_two);
-  {
-    tracer automatic("automatic");
-  }
+  { tracer automatic("automatic"); }
   std::printf("main returns\n");
   return 0;
 }

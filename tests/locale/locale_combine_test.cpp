@@ -7,16 +7,16 @@
 struct standard_facets {
   const std::locale::facet* f[12];
   explicit standard_facets(const std::locale& l) {
-    f[0] = facet_of<std::numpunct<char>>(l);
+    f[0] = facet_of<std::numpunct<char> >(l);
     f[1] = facet_of<num_get_facet>(l);
     f[2] = facet_of<num_put_facet>(l);
-    f[3] = facet_of<std::ctype<char>>(l);
+    f[3] = facet_of<std::ctype<char> >(l);
     f[4] = facet_of<codecvt_facet>(l);
-    f[5] = facet_of<std::collate<char>>(l);
+    f[5] = facet_of<std::collate<char> >(l);
     f[6] = facet_of<time_put_facet>(l);
     f[7] = facet_of<time_get_facet>(l);
-    f[8] = facet_of<std::moneypunct<char, true>>(l);
-    f[9] = facet_of<std::moneypunct<char, false>>(l);
+    f[8] = facet_of<std::moneypunct<char, true> >(l);
+    f[9] = facet_of<std::moneypunct<char, false> >(l);
     f[10] = facet_of<money_put_facet>(l);
     f[11] = facet_of<money_get_facet>(l);
   }
@@ -85,13 +85,13 @@ TEST(combining_with_a_name_for_time_keeps_the_time_facets) {
 TEST(combining_with_a_name_takes_new_facets_of_that_name) {
   std::locale other("C");
   std::locale combined(other, "de_DE.UTF-8", std::locale::numeric | std::locale::monetary);
-  CHECK_EQ(std::use_facet<std::numpunct<char>>(combined).decimal_point(), ',');
-  CHECK_EQ(std::use_facet<std::numpunct<char>>(other).decimal_point(), '.');
-  CHECK(facet_of<std::ctype<char>>(combined) == facet_of<std::ctype<char>>(other));
+  CHECK_EQ(std::use_facet<std::numpunct<char> >(combined).decimal_point(), ',');
+  CHECK_EQ(std::use_facet<std::numpunct<char> >(other).decimal_point(), '.');
+  CHECK(facet_of<std::ctype<char> >(combined) == facet_of<std::ctype<char> >(other));
   // The temporary representation is gone; the taken facets are held by this table alone.
-  CHECK_EQ(facet_of<std::numpunct<char>>(combined)->__refs, 1u);
+  CHECK_EQ(facet_of<std::numpunct<char> >(combined)->__refs, 1u);
   CHECK_EQ(facet_of<money_get_facet>(combined)->__refs, 1u);
-  CHECK_EQ(facet_of<std::ctype<char>>(combined)->__refs, 2u);
+  CHECK_EQ(facet_of<std::ctype<char> >(combined)->__refs, 2u);
 }
 
 TEST(a_combined_locale_keeps_the_first_arguments_name) {
@@ -106,12 +106,12 @@ TEST(combining_counts_every_shared_facet_once_more) {
     std::locale combined(other, one, std::locale::ctype);
     CHECK_EQ(refs_of(combined), 1u);
     CHECK_EQ(refs_of(other), 1u);
-    CHECK_EQ(facet_of<std::ctype<char>>(one)->__refs, 2u);
-    CHECK_EQ(facet_of<std::ctype<char>>(other)->__refs, 1u); // replaced in the copy
+    CHECK_EQ(facet_of<std::ctype<char> >(one)->__refs, 2u);
+    CHECK_EQ(facet_of<std::ctype<char> >(other)->__refs, 1u); // replaced in the copy
     CHECK_EQ(facet_of<codecvt_facet>(other)->__refs, 2u);
-    CHECK_EQ(facet_of<std::numpunct<char>>(other)->__refs, 2u);
+    CHECK_EQ(facet_of<std::numpunct<char> >(other)->__refs, 2u);
   }
-  CHECK_EQ(facet_of<std::ctype<char>>(one)->__refs, 1u);
+  CHECK_EQ(facet_of<std::ctype<char> >(one)->__refs, 1u);
   CHECK_EQ(facet_of<codecvt_facet>(other)->__refs, 1u);
 }
 
@@ -141,7 +141,7 @@ TEST(a_source_table_ending_at_the_facets_id_does_not_provide_it) {
   {
     std::locale combined(other, one, std::locale::monetary | std::locale::ctype);
     CHECK(facet_of<money_get_facet>(combined) == facet_of<money_get_facet>(other));
-    CHECK(facet_of<std::ctype<char>>(combined) == saved[ctype_index]);
+    CHECK(facet_of<std::ctype<char> >(combined) == saved[ctype_index]);
   }
   table.resize(full_size, 0);
   for (unsigned i = 0; i < full_size; ++i)

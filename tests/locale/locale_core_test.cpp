@@ -50,8 +50,8 @@ TEST(a_named_locale_restores_the_c_library_locale) {
 
 TEST(a_named_locale_reads_its_punctuation_while_its_name_is_in_force) {
   std::locale german("de_DE.UTF-8");
-  CHECK_EQ(std::use_facet<std::numpunct<char>>(german).decimal_point(), ',');
-  CHECK_EQ(std::use_facet<std::numpunct<char>>(std::locale::classic()).decimal_point(), '.');
+  CHECK_EQ(std::use_facet<std::numpunct<char> >(german).decimal_point(), ',');
+  CHECK_EQ(std::use_facet<std::numpunct<char> >(std::locale::classic()).decimal_point(), '.');
 }
 
 TEST(the_name_star_keeps_its_name_and_builds_c_facets) {
@@ -81,7 +81,7 @@ TEST(every_facet_of_a_named_locale_is_managed_and_held_once) {
 
 TEST(self_assignment_changes_no_count) {
   std::locale german("de_DE.UTF-8");
-  const std::locale::facet* numbers = facet_of<std::numpunct<char>>(german);
+  const std::locale::facet* numbers = facet_of<std::numpunct<char> >(german);
   german = german;
   CHECK_EQ(refs_of(german), 1u);
   CHECK_EQ(numbers->__refs, 1u);
@@ -92,7 +92,7 @@ TEST(assignment_between_handles_of_one_representation_changes_no_count) {
   std::locale copy(german);
   copy = german;
   CHECK_EQ(refs_of(german), 2u);
-  CHECK_EQ(facet_of<std::ctype<char>>(german)->__refs, 1u);
+  CHECK_EQ(facet_of<std::ctype<char> >(german)->__refs, 1u);
 }
 
 TEST(assignment_moves_a_handle_and_frees_the_representation_it_left_last) {
@@ -112,7 +112,7 @@ TEST(a_managed_facet_dies_with_its_last_table) {
   std::locale* a = new std::locale("C");
   place(*a, new counted_ctype(0), std::ctype<char>::id);
   std::locale* b = new std::locale(std::locale::classic(), *a, std::locale::ctype);
-  const std::locale::facet* shared = facet_of<std::ctype<char>>(*b);
+  const std::locale::facet* shared = facet_of<std::ctype<char> >(*b);
   CHECK_EQ(shared->__refs, 2u);
   delete a;
   CHECK_EQ(shared->__refs, 1u);
@@ -130,7 +130,7 @@ TEST(a_facet_made_with_refs_1_survives_every_locale_that_held_it) {
     std::locale b(std::locale::classic(), a, std::locale::ctype);
     std::locale c(b);
     std::locale d(b, "de_DE.UTF-8", std::locale::numeric);
-    CHECK(facet_of<std::ctype<char>>(d) == own);
+    CHECK(facet_of<std::ctype<char> >(d) == own);
     CHECK(!own->__managed);
     CHECK_EQ(own->__refs, 0u);
   }
@@ -143,8 +143,8 @@ TEST(a_facet_made_with_refs_1_survives_every_locale_that_held_it) {
 TEST(lookup_returns_the_table_entry) {
   const std::locale& c = std::locale::classic();
   unsigned index = std::collate<char>::id.__number();
-  CHECK(facet_of<std::collate<char>>(c) == c.__imp->facets.data[index]);
-  CHECK(std::has_facet<std::collate<char>>(c));
+  CHECK(facet_of<std::collate<char> >(c) == c.__imp->facets.data[index]);
+  CHECK(std::has_facet<std::collate<char> >(c));
 }
 
 struct never_held_facet : std::locale::facet {

@@ -27,16 +27,16 @@ static int state;
 static tm when;
 
 TEST(unbuilt_numeric_operations_trap) {
-  usable<std::num_get<char, char*>> get;
-  usable<std::num_put<char, char*>> put;
+  usable<std::num_get<char, char*> > get;
+  usable<std::num_put<char, char*> > put;
   long value = 0;
   EXPECT_ABORT(get.get(text, text, no_stream, state, value), "num_get::get is not built yet\n");
   EXPECT_ABORT(put.put(text, no_stream, ' ', 42L), "num_put::put is not built yet\n");
 }
 
 TEST(unbuilt_time_operations_trap) {
-  usable<std::time_get<char, char*>> get;
-  usable<std::time_put<char, char*>> put;
+  usable<std::time_get<char, char*> > get;
+  usable<std::time_put<char, char*> > put;
   EXPECT_ABORT(get.date_order(), "time_get::date_order is not built yet\n");
   EXPECT_ABORT(get.get_time(text, text, no_stream, state, &when),
                "time_get::get_time is not built yet\n");
@@ -54,8 +54,8 @@ TEST(unbuilt_time_operations_trap) {
 }
 
 TEST(unbuilt_monetary_operations_trap) {
-  usable<std::money_get<char, char*>> get;
-  usable<std::money_put<char, char*>> put;
+  usable<std::money_get<char, char*> > get;
+  usable<std::money_put<char, char*> > put;
   long double units = 0;
   EXPECT_ABORT(get.get(text, text, false, no_stream, state, units),
                "money_get::get is not built yet\n");

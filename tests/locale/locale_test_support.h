@@ -9,8 +9,8 @@
 #include <string.h>
 #include <unistd.h>
 
-typedef std::istreambuf_iterator<char, std::char_traits<char>> input_iterator;
-typedef std::ostreambuf_iterator<char, std::char_traits<char>> output_iterator;
+typedef std::istreambuf_iterator<char, std::char_traits<char> > input_iterator;
+typedef std::ostreambuf_iterator<char, std::char_traits<char> > output_iterator;
 // Names without commas, for use inside the check macros.
 typedef std::num_get<char, input_iterator> num_get_facet;
 typedef std::num_put<char, output_iterator> num_put_facet;

@@ -1,12 +1,12 @@
 // Array construction and destruction through the cookie helpers. This program supplies its own
 // operator new[] and delete[] so that every request and release the library makes is seen.
+#include "lorb_test.h"
+#include <__lorb/runtime.h>
+#include <cstdio>
+#include <cstring>
 #include <new>
 #include <stddef.h>
 #include <stdlib.h>
-#include <cstring>
-#include <cstdio>
-#include <__lorb/runtime.h>
-#include "lorb_test.h"
 
 static size_t last_request = 0;
 static void* last_allocation = 0;
@@ -234,8 +234,7 @@ static void copy_then_exit_on_fifth(void*, void*) {
 TEST(vec_cctor_compares_the_count_unsigned) {
   char storage[4], source[4];
   // -1 is read as 0xFFFFFFFF: the loop runs until the copy constructor ends the process.
-  EXPECT_CHILD(__vec_cctor(storage, -1, 0, copy_then_exit_on_fifth, source), lt::exits(5), "",
-               "");
+  EXPECT_CHILD(__vec_cctor(storage, -1, 0, copy_then_exit_on_fifth, source), lt::exits(5), "", "");
 }
 
 TEST(vec_cctor_eh_compares_the_count_signed) {

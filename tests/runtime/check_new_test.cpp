@@ -1,9 +1,9 @@
 // Built at -O2 like any program: a `new T` whose allocation fails yields null and does not run
 // T's constructor (the library and the driver build with -fcheck-new).
+#include "lorb_test.h"
+#include <cstdio>
 #include <new>
 #include <stddef.h>
-#include <cstdio>
-#include "lorb_test.h"
 
 extern "C" void* __libc_malloc(size_t);
 static bool malloc_fails = false;

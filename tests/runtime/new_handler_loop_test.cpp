@@ -1,10 +1,10 @@
 // The allocation loops, watched from outside: this program supplies its own malloc (counting,
 // and failing on demand) and its own __default_new_handler, which the library's references
 // resolve to, so every call the loops make is seen.
+#include "lorb_test.h"
+#include <__lorb/runtime.h>
 #include <new>
 #include <stddef.h>
-#include <__lorb/runtime.h>
-#include "lorb_test.h"
 
 extern "C" void* __libc_malloc(size_t);
 

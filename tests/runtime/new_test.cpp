@@ -1,9 +1,9 @@
 // Allocation functions: zero-size requests, the nothrow tag, placement delete, __memzero.
-#include <new>
-#include <cstring>
-#include <stddef.h>
-#include <__lorb/runtime.h>
 #include "lorb_test.h"
+#include <__lorb/runtime.h>
+#include <cstring>
+#include <new>
+#include <stddef.h>
 
 // This program's own malloc can be told to fail, standing in for exhausted memory.
 extern "C" void* __libc_malloc(size_t);

@@ -1,6 +1,6 @@
 // The pure-virtual trap: reached directly, through g++'s slot name, and from a real call.
-#include <__lorb/runtime.h>
 #include "lorb_test.h"
+#include <__lorb/runtime.h>
 
 extern "C" void __cxa_pure_virtual();
 

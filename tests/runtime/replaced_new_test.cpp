@@ -1,12 +1,11 @@
 // A program that defines its own operator new and delete replaces them for the library too.
+#include "lorb_test.h"
+#include <__lorb/runtime.h>
 #include <new>
 #include <stddef.h>
 #include <stdlib.h>
-#include <__lorb/runtime.h>
-#include "lorb_test.h"
 
-static int program_news = 0, program_deletes = 0, program_array_news = 0,
-           program_array_deletes = 0;
+static int program_news = 0, program_deletes = 0, program_array_news = 0, program_array_deletes = 0;
 
 void* operator new(size_t size) {
   ++program_news;

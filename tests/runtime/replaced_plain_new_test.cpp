@@ -1,10 +1,10 @@
 // A program that replaces only the plain operator new and delete: the library's array forms
 // forward to them, so the library binds none of these names to its own definitions.
+#include "lorb_test.h"
+#include <__lorb/runtime.h>
 #include <new>
 #include <stddef.h>
 #include <stdlib.h>
-#include <__lorb/runtime.h>
-#include "lorb_test.h"
 
 static int program_news = 0, program_deletes = 0;
 

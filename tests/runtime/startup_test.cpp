@@ -1,11 +1,11 @@
 // Start-up and termination: the once-only _main, the scheduling of the walk with atexit, and the
 // order of the walk against the program's own static destructors at every kind of exit.
 #define _GNU_SOURCE 1
-#include <dlfcn.h>
+#include "lorb_test.h"
+#include <__lorb/runtime.h>
 #include <cstdio>
 #include <cstdlib>
-#include <__lorb/runtime.h>
-#include "lorb_test.h"
+#include <dlfcn.h>
 
 // This program's own __cxa_atexit (what atexit calls) can be told to refuse, and counts calls.
 static bool refuse_registration = false;

@@ -1,9 +1,9 @@
 // The needed-destruction list: order, nodes recorded while it runs, node kinds, the atexit
 // variant, unloading a shared object's nodes, and the trap on a node recorded twice.
+#include "lorb_test.h"
+#include <__lorb/runtime.h>
 #include <cstdio>
 #include <cstring>
-#include <__lorb/runtime.h>
-#include "lorb_test.h"
 
 typedef __lorb_destruction_node node;
 
