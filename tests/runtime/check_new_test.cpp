@@ -1,13 +1,12 @@
 // Built at -O2 like any program: a `new T` whose allocation fails yields null and does not run
 // T's constructor (the library and the driver build with -fcheck-new).
+#include "failing_malloc.h"
 #include "lorb_test.h"
 #include <cstdio>
 #include <new>
 #include <stddef.h>
 
-extern "C" void* __libc_malloc(size_t);
-static bool malloc_fails = false;
-extern "C" void* malloc(size_t size) { return malloc_fails ? 0 : __libc_malloc(size); }
+using lt::malloc_fails;
 
 static int constructions = 0;
 struct widget {

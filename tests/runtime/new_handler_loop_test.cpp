@@ -1,33 +1,21 @@
 // The allocation loops, watched from outside: this program supplies its own malloc (counting,
 // and failing on demand) and its own __default_new_handler, which the library's references
 // resolve to, so every call the loops make is seen.
+#include "failing_malloc.h"
 #include "lorb_test.h"
 #include <__lorb/runtime.h>
 #include <new>
 #include <stddef.h>
 
-extern "C" void* __libc_malloc(size_t);
-
-static bool malloc_fails = false;
-static int malloc_calls = 0;
-static size_t last_failed_size = 0;
+using lt::malloc_fails;
 static int default_handler_calls = 0;
 static int program_handler_calls = 0;
-
-extern "C" void* malloc(size_t size) {
-  if (malloc_fails) {
-    ++malloc_calls;
-    last_failed_size = size;
-    return 0;
-  }
-  return __libc_malloc(size);
-}
 
 extern "C" void __default_new_handler() { ++default_handler_calls; }
 
 static void start_counting() {
   malloc_fails = true;
-  malloc_calls = default_handler_calls = program_handler_calls = 0;
+  lt::refused_mallocs = default_handler_calls = program_handler_calls = 0;
 }
 
 static void stop_counting() { malloc_fails = false; }
@@ -48,7 +36,7 @@ TEST(plain_new_with_default_handler_calls_it_once_and_returns_null) {
   void* p = operator new(16);
   stop_counting();
   CHECK(p == 0);
-  CHECK_EQ(malloc_calls, 1);
+  CHECK_EQ(lt::refused_mallocs, 1);
   CHECK_EQ(default_handler_calls, 1);
 }
 
@@ -58,7 +46,7 @@ TEST(plain_new_with_null_handler_still_calls_the_default_once) {
   void* p = operator new(16);
   stop_counting();
   CHECK(p == 0);
-  CHECK_EQ(malloc_calls, 1);
+  CHECK_EQ(lt::refused_mallocs, 1);
   CHECK_EQ(default_handler_calls, 1);
   std::set_new_handler(__default_new_handler);
 }
@@ -69,7 +57,7 @@ TEST(nothrow_new_with_null_handler_returns_null_without_calling_any) {
   void* p = operator new(16, std::nothrow);
   stop_counting();
   CHECK(p == 0);
-  CHECK_EQ(malloc_calls, 1);
+  CHECK_EQ(lt::refused_mallocs, 1);
   CHECK_EQ(default_handler_calls, 0);
   std::set_new_handler(__default_new_handler);
 }
@@ -80,7 +68,7 @@ TEST(nothrow_new_with_default_handler_calls_it_once) {
   void* p = operator new[](16, std::nothrow);
   stop_counting();
   CHECK(p == 0);
-  CHECK_EQ(malloc_calls, 1);
+  CHECK_EQ(lt::refused_mallocs, 1);
   CHECK_EQ(default_handler_calls, 1);
 }
 
@@ -90,7 +78,7 @@ TEST(handler_that_installs_null_on_third_call_makes_four_mallocs) {
   void* p = operator new(16);
   stop_counting();
   CHECK(p == 0);
-  CHECK_EQ(malloc_calls, 4);
+  CHECK_EQ(lt::refused_mallocs, 4);
   CHECK_EQ(program_handler_calls, 3);
   CHECK_EQ(default_handler_calls, 1);
 }
@@ -101,7 +89,7 @@ TEST(nothrow_new_stops_at_once_when_handler_installs_null) {
   void* p = operator new(16, std::nothrow);
   stop_counting();
   CHECK(p == 0);
-  CHECK_EQ(malloc_calls, 4);
+  CHECK_EQ(lt::refused_mallocs, 4);
   CHECK_EQ(program_handler_calls, 3);
   CHECK_EQ(default_handler_calls, 0);
 }
@@ -112,7 +100,7 @@ TEST(handler_installing_the_default_ends_the_array_loop) {
   void* p = operator new[](16);
   stop_counting();
   CHECK(p == 0);
-  CHECK_EQ(malloc_calls, 3);
+  CHECK_EQ(lt::refused_mallocs, 3);
   CHECK_EQ(program_handler_calls, 2);
   CHECK_EQ(default_handler_calls, 1);
 }
@@ -128,7 +116,7 @@ TEST(handler_that_frees_memory_lets_the_allocation_succeed) {
   void* p = operator new(16);
   stop_counting();
   CHECK(p != 0);
-  CHECK_EQ(malloc_calls, 1);
+  CHECK_EQ(lt::refused_mallocs, 1);
   CHECK_EQ(program_handler_calls, 1);
   CHECK_EQ(default_handler_calls, 0);
   operator delete(p);
@@ -140,6 +128,6 @@ TEST(zero_byte_request_asks_malloc_for_one_byte) {
   void* p = operator new(0);
   stop_counting();
   CHECK(p == 0);
-  CHECK_EQ(malloc_calls, 1);
-  CHECK_EQ(last_failed_size, 1u);
+  CHECK_EQ(lt::refused_mallocs, 1);
+  CHECK_EQ(lt::last_refused_size, 1u);
 }

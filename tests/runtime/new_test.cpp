@@ -1,4 +1,5 @@
 // Allocation functions: zero-size requests, the nothrow tag, placement delete, __memzero.
+#include "failing_malloc.h"
 #include "lorb_test.h"
 #include <__lorb/runtime.h>
 #include <cstring>
@@ -6,9 +7,7 @@
 #include <stddef.h>
 
 // This program's own malloc can be told to fail, standing in for exhausted memory.
-extern "C" void* __libc_malloc(size_t);
-static bool malloc_fails = false;
-extern "C" void* malloc(size_t size) { return malloc_fails ? 0 : __libc_malloc(size); }
+using lt::malloc_fails;
 
 // Runs one allocation while memory is exhausted.
 static void* new_without_memory(void* (*allocate)(size_t)) {

@@ -1,5 +1,6 @@
 // The needed-destruction list: order, nodes recorded while it runs, node kinds, the atexit
 // variant, unloading a shared object's nodes, and the trap on a node recorded twice.
+#include "failing_malloc.h"
 #include "lorb_test.h"
 #include <__lorb/runtime.h>
 #include <cstdio>
@@ -107,9 +108,7 @@ ISOLATED_TEST(atexit_nodes_interleave_with_static_objects) {
 }
 
 // This program's own malloc can be told to fail, to reach __vel_std_atexit's failure path.
-extern "C" void* __libc_malloc(size_t);
-static bool malloc_fails = false;
-extern "C" void* malloc(size_t size) { return malloc_fails ? 0 : __libc_malloc(size); }
+using lt::malloc_fails;
 
 ISOLATED_TEST(vel_std_atexit_returns_minus_one_and_records_nothing_without_memory) {
   malloc_fails = true;
