@@ -4,53 +4,44 @@
 namespace std {
 typedef string::size_type size_type;
 
-string& string::append(const char* s, size_type n) {
+// Appending grows in place while the buffer has room, else moves the characters to a buffer sized
+// by the rule for the longer string. Returns where the `n` new characters go; *retired is as for
+// __open_gap (the appended characters may come from the old buffer).
+char* string::__open_tail(size_type n, char** retired) {
   if (__r->length >= ~n)
     __throw_length_error();
   size_type old_length = __r->length;
   size_type new_length = old_length + n;
+  *retired = 0;
   if (!__unshare()) {
     __rep* mine = __new_rep(new_length);
     traits_type::copy(mine->data, __r->data, old_length);
-    traits_type::copy(mine->data + old_length, s, n);
     __r = mine;
-    return *this;
+    return mine->data + old_length;
   }
-  char* old_buffer = 0;
   if (new_length >= __r->capacity) {
-    old_buffer = __r->data;
+    *retired = __r->data;
     __r->data = __new_buffer(new_length, &__r->capacity);
-    traits_type::copy(__r->data, old_buffer, old_length);
+    traits_type::copy(__r->data, *retired, old_length);
   }
-  traits_type::copy(__r->data + old_length, s, n); // s may lie in the old buffer: freed after
   __r->length = new_length;
   __r->data[new_length] = 0;
-  if (old_buffer)
-    allocator_type().deallocate(old_buffer, 0);
+  return __r->data + old_length;
+}
+
+string& string::append(const char* s, size_type n) {
+  char* retired;
+  traits_type::copy(__open_tail(n, &retired), s, n);
+  if (retired)
+    allocator_type().deallocate(retired, 0);
   return *this;
 }
 
 string& string::append(size_type n, char c) {
-  if (__r->length >= ~n)
-    __throw_length_error();
-  size_type old_length = __r->length;
-  size_type new_length = old_length + n;
-  if (!__unshare()) {
-    __rep* mine = __new_rep(new_length);
-    traits_type::copy(mine->data, __r->data, old_length);
-    traits_type::assign(mine->data + old_length, n, c);
-    __r = mine;
-    return *this;
-  }
-  if (new_length >= __r->capacity) {
-    char* old_buffer = __r->data;
-    __r->data = __new_buffer(new_length, &__r->capacity);
-    traits_type::copy(__r->data, old_buffer, old_length);
-    allocator_type().deallocate(old_buffer, 0);
-  }
-  traits_type::assign(__r->data + old_length, n, c);
-  __r->length = new_length;
-  __r->data[new_length] = 0;
+  char* retired;
+  traits_type::assign(__open_tail(n, &retired), n, c);
+  if (retired)
+    allocator_type().deallocate(retired, 0);
   return *this;
 }
 
