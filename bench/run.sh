@@ -7,9 +7,14 @@ runs=${BENCH_RUNS:-3}
 out="$build_dir/bench"
 mkdir -p "$out"
 export LORB_BUILD_DIR="$build_dir"
+launcher=$(sh tools/i386-host.sh launcher)
+if [ "$(sh tools/i386-host.sh mode)" != native ]; then
+  echo "These timings are emulated (i386 programs run through qemu-i386 on this host): they are"
+  echo "not comparable with native runs, and the ratios only roughly so."
+fi
 
 best_times() { # program -> "workload best_ns" lines
-  for _ in $(seq "$runs"); do "$1"; done | awk '
+  for _ in $(seq "$runs"); do $launcher "$1"; done | awk '
     { if (!($1 in best) || $2 < best[$1]) best[$1] = $2; if (!($1 in seen)) { seen[$1] = 1; order[n++] = $1 } }
     END { for (i = 0; i < n; i++) print order[i], best[order[i]] }'
 }

@@ -33,3 +33,22 @@ for l in $locales_needed; do
   fi
 done
 [ "$regen" = 0 ] || locale-gen >/dev/null
+
+# i386 programs: natively where the kernel can, otherwise through qemu-i386, registered with
+# binfmt_misc where that is allowed; the tests' launcher starts it explicitly where it is not.
+mode=$(sh tools/i386-host.sh mode)
+if [ "$mode" != native ] && [ "$mode" != binfmt ]; then
+  if ! dpkg -s qemu-user >/dev/null 2>&1; then
+    export DEBIAN_FRONTEND=noninteractive
+    apt-get install -y -q --no-install-recommends qemu-user ||
+      { apt-get update -q || true; apt-get install -y -q --no-install-recommends qemu-user; }
+  fi
+  bash tools/register-qemu-i386.sh || true
+  mode=$(sh tools/i386-host.sh mode)
+fi
+case "$mode" in
+  native) echo "i386 programs run natively on this host" ;;
+  binfmt) echo "i386 programs run through the emulator (qemu-i386, registered with binfmt_misc)" ;;
+  launcher) echo "i386 programs run through the emulator (qemu-i386, started by the tests' launcher: binfmt_misc registration was not possible)" ;;
+  *) echo "this host cannot run i386 programs, not even through qemu-i386" >&2; exit 1 ;;
+esac

@@ -1,7 +1,8 @@
 #!/bin/sh
 # Runs one test program; under `make memcheck` (LORB_MEMCHECK=1) it runs under valgrind memcheck,
 # each process (forked children included) logging apart, and fails on any error in any log.
-[ "${LORB_MEMCHECK:-0}" = 1 ] || exec "$@"
+# LORB_I386_LAUNCHER, where set, is what starts an i386 program on this host (qemu-i386).
+[ "${LORB_MEMCHECK:-0}" = 1 ] || exec ${LORB_I386_LAUNCHER:-} "$@"
 logs=${LORB_MEMCHECK_LOGS:-/tmp/lorb-memcheck}/$(basename "$1").$$
 mkdir -p "$logs"
 # Allocation functions a test program defines for itself stay its own under valgrind too.
