@@ -15,7 +15,6 @@ typedef istreambuf_iterator<char, char_traits<char> > __input_iterator;
 typedef ostreambuf_iterator<char, char_traits<char> > __output_iterator;
 
 template <> __LORB_EXPORT locale::id num_get<char, __input_iterator>::id = locale::id();
-template <> __LORB_EXPORT locale::id num_put<char, __output_iterator>::id = locale::id();
 template <> __LORB_EXPORT locale::id time_get<char, __input_iterator>::id = locale::id();
 template <> __LORB_EXPORT locale::id time_put<char, __output_iterator>::id = locale::id();
 template <> __LORB_EXPORT locale::id money_get<char, __input_iterator>::id = locale::id();

@@ -1,5 +1,5 @@
-// The numeric, time and monetary facets that every locale holds but whose formatting and parsing
-// are not built yet: each has its id and its place in the locale, and every operation traps.
+// The numeric parsing, time and monetary facets that every locale holds but whose formatting and
+// parsing are not built yet: each has its id and its place in the locale, and every operation traps.
 #ifndef __LORB_PLACEHOLDER_FACETS_H
 #define __LORB_PLACEHOLDER_FACETS_H
 
@@ -41,22 +41,6 @@ public:
 
 protected:
   ~num_get() {}
-};
-
-template <class _CharT, class _OutputIter = __LORB_OUTPUT_ITERATOR(_CharT)>
-class __LORB_EXPORT num_put : public locale::facet {
-public:
-  typedef _CharT char_type;
-  typedef _OutputIter iter_type;
-  explicit num_put(size_t refs = 0) : locale::facet(refs) {}
-  static locale::id id;
-
-  template <class _Value> iter_type put(iter_type, ios_base&, char_type, _Value) const {
-    __LORB_NOT_BUILT("num_put::put");
-  }
-
-protected:
-  ~num_put() {}
 };
 
 class __LORB_EXPORT time_base {

@@ -43,7 +43,8 @@ TEST(a_notice_followed_by_library_text_is_kept) {
 }
 
 TEST(a_notice_without_its_newline_is_kept) {
-  expect_kept_error("qemu: uncaught target signal 6 (Aborted)", "qemu: uncaught target signal 6 (Aborted)");
+  expect_kept_error("qemu: uncaught target signal 6 (Aborted)",
+                    "qemu: uncaught target signal 6 (Aborted)");
 }
 
 TEST(other_text_on_the_last_line_is_kept) {
