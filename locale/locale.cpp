@@ -54,6 +54,10 @@ locale::~locale() {
 
 basic_string<char> locale::name() const { return __imp->name; }
 
+bool locale::operator==(const locale& other) const {
+  return __imp == other.__imp || (__imp->name != "*" && __imp->name == other.__imp->name);
+}
+
 namespace {
 // The classic locale is built on first use, not at start-up, and recorded for destruction at
 // exit through the library's own list rather than a compiler-generated destructor call.
@@ -79,6 +83,44 @@ const locale& locale::classic() {
     __record_needed_destruction(&classic_destruction);
   }
   return *classic_locale;
+}
+
+namespace {
+// The locale that global() installed holds a counted reference, so global_ never outlives its
+// representation; it is recorded for destruction like the classic locale.
+union global_storage {
+  void* alignment;
+  char bytes[sizeof(locale)];
+};
+global_storage global_holder;
+bool global_holder_built = false;
+
+void destroy_global_holder(void* object, int) {
+  locale* holder = static_cast<locale*>(object);
+  if (locale::global_ == holder->__imp)
+    locale::global_ = 0;
+  holder->~locale();
+}
+
+__lorb_destruction_node global_holder_destruction = {0, 0, 0};
+} // namespace
+
+locale locale::global(const locale& loc) {
+  locale previous;
+  locale* holder = reinterpret_cast<locale*>(global_holder.bytes);
+  if (!global_holder_built) {
+    new (holder) locale(loc);
+    global_holder_built = true;
+    global_holder_destruction.object = holder;
+    global_holder_destruction.destructor = destroy_global_holder;
+    __record_needed_destruction(&global_holder_destruction);
+  } else {
+    *holder = loc;
+  }
+  global_ = loc.__imp;
+  if (loc.__imp->name != "*")
+    setlocale(LC_ALL, loc.__imp->name.c_str());
+  return previous;
 }
 
 } // namespace std

@@ -31,6 +31,23 @@ locale::locale(const locale& other, const locale& one, category cats)
   set_cat(one.__imp, cats);
 }
 
+// The incoming facet is counted before the one it replaces is released, as in set_imp.
+void locale::__with_facet(const locale& other, facet* f, const id& i) {
+  __imp = new imp(*other.__imp);
+  if (!f)
+    return;
+  __imp->name = "*";
+  unsigned index = i.__number();
+  if (__imp->facets.size <= index)
+    __imp->facets.resize(index + 1, 0);
+  if (f->__managed)
+    ++f->__refs;
+  facet* old = __imp->facets.data[index];
+  if (old)
+    old->__release();
+  __imp->facets.data[index] = f;
+}
+
 // Kept narrower than what a representation creates: codecvt does not travel with ctype, and the
 // time and messages categories copy nothing.
 void locale::set_cat(imp* source, category cats) {

@@ -165,6 +165,13 @@ protected:
   virtual string_type do_transform(const char* low, const char* high) const;
   virtual long do_hash(const char* low, const char* high) const;
 };
+template <class _CharT, class _Traits, class _Alloc>
+bool locale::operator()(const basic_string<_CharT, _Traits, _Alloc>& a,
+                        const basic_string<_CharT, _Traits, _Alloc>& b) const {
+  return use_facet<std::collate<_CharT> >(*this).compare(a.data(), a.data() + a.size(), b.data(),
+                                                         b.data() + b.size()) < 0;
+}
+
 } // namespace std
 
 #endif

@@ -36,10 +36,26 @@ public:
   locale(const locale& other, const char* std_name, category cats);
   // A copy of other whose facets of the categories cats come from one.
   locale(const locale& other, const locale& one, category cats);
+  // A copy of other, without a name ("*"), holding f in the place of its facet class (a null f
+  // changes nothing). A facet built with refs == 0 is then deleted with its last locale.
+  template <class _Facet> locale(const locale& other, _Facet* f) {
+    __with_facet(other, f, _Facet::id);
+  }
   const locale& operator=(const locale& other);
   ~locale();
 
   basic_string<char> name() const;
+  // The same representation, or two locales with the same name other than "*".
+  bool operator==(const locale& other) const;
+  bool operator!=(const locale& other) const { return !(*this == other); }
+  // Compares two strings with this locale's collate<char>.
+  template <class _CharT, class _Traits, class _Alloc>
+  bool operator()(const basic_string<_CharT, _Traits, _Alloc>& a,
+                  const basic_string<_CharT, _Traits, _Alloc>& b) const;
+
+  // Makes loc the locale that default-constructed locales copy, and, when loc has a name, the C
+  // library's locale too; returns the previous global locale.
+  static locale global(const locale& loc);
   static const locale& classic();
 
   // The facet of id i, or null; assigns i a number on its first use.
@@ -50,6 +66,7 @@ public:
   imp* __imp;
 
 private:
+  void __with_facet(const locale& other, facet* f, const id& i);
   unsigned& __imp_refs() const;
   void set_imp(imp* source, const id& i);
   void set_cat(imp* source, category cats);
