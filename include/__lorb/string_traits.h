@@ -2,6 +2,7 @@
 #ifndef __LORB_STRING_TRAITS_H
 #define __LORB_STRING_TRAITS_H
 
+#include <__lorb/config.h>
 #include <cstddef>
 #include <cstring>
 #include <cwchar>
@@ -16,7 +17,7 @@ typedef fpos<mbstate_t> streampos;
 template <class _CharT> struct char_traits;
 
 // Characters leave as unsigned char values 0 to 255 so that none of them equals eof().
-template <> struct char_traits<char> {
+template <> struct __LORB_EXPORT char_traits<char> {
   typedef char char_type;
   typedef int int_type;
   typedef streamoff off_type;
