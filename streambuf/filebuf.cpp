@@ -1,7 +1,6 @@
 // std::basic_filebuf<char>: every virtual operation straight onto the attached C library FILE,
 // opening through the open-mode table, and the rule that stdin, stdout and stderr stay open.
-#include <__lorb/ctype_facets.h>
-#include <__lorb/filebuf.h>
+#include <__lorb/library_facets.h>
 #include <stdio.h>
 
 namespace std {
@@ -148,7 +147,8 @@ basic_filebuf<char>::int_type basic_filebuf<char>::overflow(int_type c) {
   if (c == traits_type::eof())
     return 0;
   int written;
-  if (convert.always_noconv()) {
+  // The library's own codecvt is known never to convert; a program's is asked.
+  if (__vel::is_library_codecvt(convert) || convert.always_noconv()) {
     written = putc_unlocked(ch, __file);
   } else {
     int state = 0;
@@ -176,7 +176,7 @@ streamsize basic_filebuf<char>::xsputn(const char* s, streamsize n) {
   const codecvt<char, char, int>& convert = use_facet<codecvt<char, char, int> >(__locale);
   if (!__file || n == 0)
     return 0;
-  if (convert.always_noconv())
+  if (__vel::is_library_codecvt(convert) || convert.always_noconv())
     return static_cast<streamsize>(fwrite_unlocked(s, 1, n, __file));
   int state = 0;
   const char* from_next = 0;

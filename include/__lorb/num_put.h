@@ -4,6 +4,7 @@
 #ifndef __LORB_NUM_PUT_H
 #define __LORB_NUM_PUT_H
 
+#include <__lorb/char_runs.h>
 #include <__lorb/config.h>
 #include <__lorb/ios_base.h>
 #include <__lorb/locale_core.h>
@@ -25,6 +26,13 @@ __LORB_EXPORT unsigned format_integer(char* text, const char* format, unsigned l
 // length grows by the number of placeholders.
 __LORB_EXPORT unsigned insert_group_placeholders(char* text, unsigned& length, unsigned end,
                                                  unsigned prefix, const char* grouping);
+
+// Turns every placeholder ',' among the first length characters into separator.
+inline void replace_placeholders(char* text, unsigned length, char separator) {
+  for (char* end = text + length; text < end; ++text)
+    if (*text == ',')
+      *text = separator;
+}
 
 // The C library's decimal point, which sprintf writes.
 __LORB_EXPORT char c_decimal_point();
@@ -100,7 +108,6 @@ protected:
                           unsigned long long argument, bool wide) const;
   template <class _Float>
   iter_type __put_float(iter_type out, ios_base& str, char_type fill, char length, _Float v) const;
-  static iter_type __repeat(iter_type out, char_type c, long count);
 };
 
 // Every instance has its id; the library's two instances have theirs in the library.

@@ -21,15 +21,6 @@ __LORB_EXPORT char* format_float(char* text, unsigned room, const char* fmt, int
 namespace std {
 
 template <class _CharT, class _OutputIter>
-_OutputIter num_put<_CharT, _OutputIter>::__repeat(iter_type out, char_type c, long count) {
-  for (; count > 0; --count) {
-    *out = c;
-    ++out;
-  }
-  return out;
-}
-
-template <class _CharT, class _OutputIter>
 void num_put<_CharT, _OutputIter>::int_fmt(char* fmt, char conv, long flags) {
   *fmt++ = '%';
   if (conv == 'p') {
@@ -74,7 +65,7 @@ template <class _CharT, class _OutputIter>
 _OutputIter num_put<_CharT, _OutputIter>::print_integral_type(iter_type out, ios_base& str,
                                                               char_type fill, char* buf,
                                                               unsigned len) const {
-  const numpunct<char>& punct = use_facet<numpunct<char> >(str.getloc());
+  const numpunct<char>& punct = use_facet<numpunct<char> >(str.__locale);
   unsigned prefix = 0;
   if (buf[0] == '+' || buf[0] == '-')
     prefix = 1;
@@ -83,22 +74,22 @@ _OutputIter num_put<_CharT, _OutputIter>::print_integral_type(iter_type out, ios
   else if (buf[0] == '0' && buf[1] != 0)
     prefix = 1; // the octal base mark
   __vel::insert_group_placeholders(buf, len, len, prefix, punct.grouping().c_str());
+  __vel::replace_placeholders(buf, len, punct.thousands_sep());
 
   long pad = str.width() > static_cast<long>(len) ? str.width() - static_cast<long>(len) : 0;
   long adjust = str.flags() & ios_base::adjustfield;
-  const char* next = buf;
-  if (adjust == ios_base::internal && prefix != 0)
-    for (; next < buf + prefix; ++next, ++out)
-      *out = *next;
+  unsigned first = 0;
+  if (adjust == ios_base::internal && prefix != 0) {
+    out = __vel::put_chars(out, buf, prefix);
+    first = prefix;
+  }
   if (adjust != ios_base::left && pad != 0) {
-    out = __repeat(out, fill, pad);
+    out = __vel::put_fill(out, fill, pad);
     pad = 0;
   }
-  char separator = punct.thousands_sep();
-  for (const char* end = buf + len; next < end; ++next, ++out)
-    *out = *next == ',' ? separator : *next;
+  out = __vel::put_chars(out, buf + first, len - first);
   str.width(0);
-  return __repeat(out, fill, pad);
+  return __vel::put_fill(out, fill, pad);
 }
 
 template <class _CharT, class _OutputIter>
@@ -106,7 +97,7 @@ _OutputIter num_put<_CharT, _OutputIter>::print_float_type(iter_type out, ios_ba
                                                            char_type fill, char* buf,
                                                            unsigned extra_zeros,
                                                            unsigned len) const {
-  const numpunct<char>& punct = use_facet<numpunct<char> >(str.getloc());
+  const numpunct<char>& punct = use_facet<numpunct<char> >(str.__locale);
   unsigned sign = (buf[0] == '+' || buf[0] == '-') ? 1 : 0;
   // Kept: without a decimal point the whole text counts as the integer part, exponent included.
   const char* point = static_cast<const char*>(memchr(buf, __vel::c_decimal_point(), len));
@@ -114,39 +105,37 @@ _OutputIter num_put<_CharT, _OutputIter>::print_float_type(iter_type out, ios_ba
   unsigned total = len;
   integer_end =
       __vel::insert_group_placeholders(buf, total, integer_end, sign, punct.grouping().c_str());
+  __vel::replace_placeholders(buf, integer_end, punct.thousands_sep());
 
   long used = static_cast<long>(len + extra_zeros);
   long pad = str.width() > used ? str.width() - used : 0;
   long flags = str.flags();
-  const char* next = buf;
+  unsigned first = 0;
   if (sign && (flags & ios_base::internal)) {
-    *out = *next++;
-    ++out;
+    out = __vel::put_chars(out, buf, 1);
+    first = 1;
   }
   if ((flags & ios_base::adjustfield) != ios_base::left)
-    out = __repeat(out, fill, pad);
-  char separator = punct.thousands_sep();
-  for (const char* end = buf + integer_end; next < end; ++next, ++out)
-    *out = *next == ',' ? separator : *next;
+    out = __vel::put_fill(out, fill, pad);
+  out = __vel::put_chars(out, buf + first, integer_end - first);
+  const char* next = buf + integer_end;
   const char* end = buf + total;
   if (next < end) { // the decimal point
-    *out = punct.decimal_point();
-    ++out;
+    out = __vel::put_fill(out, punct.decimal_point(), 1);
     ++next;
   }
-  const char* exponent = static_cast<const char*>(memchr(next, 'e', end - next));
-  for (const char* stop = exponent ? exponent : end; next < stop; ++next, ++out)
-    *out = *next;
-  out = __repeat(out, '0', extra_zeros);
-  if (exponent) {
-    *out = (flags & ios_base::uppercase) ? 'E' : 'e';
-    ++out;
-    for (next = exponent + 1; next < end; ++next, ++out)
-      *out = *next;
+  const char* exponent = next;
+  while (exponent < end && *exponent != 'e')
+    ++exponent;
+  out = __vel::put_chars(out, next, exponent - next);
+  out = __vel::put_fill(out, '0', extra_zeros);
+  if (exponent < end) {
+    out = __vel::put_fill(out, (flags & ios_base::uppercase) ? 'E' : 'e', 1);
+    out = __vel::put_chars(out, exponent + 1, end - exponent - 1);
   }
   str.width(0);
   if ((flags & ios_base::adjustfield) == ios_base::left)
-    out = __repeat(out, fill, pad);
+    out = __vel::put_fill(out, fill, pad);
   return out;
 }
 
@@ -162,7 +151,9 @@ num_put<_CharT, _OutputIter>::__put_integer(iter_type out, ios_base& str, char_t
     fmt[n] = fmt[n - 1];
     fmt[n - 1] = 'l';
   }
-  char buf[__vel::number_text_size] = {0};
+  // Not zero-filled first: the converter ends its text with a terminator, and nothing reads
+  // past it.
+  char buf[__vel::number_text_size];
   unsigned len = __vel::format_integer(buf, fmt, argument);
   return print_integral_type(out, str, fill, buf, len);
 }
@@ -199,11 +190,9 @@ _OutputIter num_put<_CharT, _OutputIter>::do_put(iter_type out, ios_base& str, c
     *out = v ? '1' : '0';
     return ++out;
   }
-  const numpunct<char>& punct = use_facet<numpunct<char> >(str.getloc());
+  const numpunct<char>& punct = use_facet<numpunct<char> >(str.__locale);
   basic_string<char> name = v ? punct.truename() : punct.falsename();
-  for (const char *next = name.data(), *end = next + name.size(); next < end; ++next, ++out)
-    *out = *next;
-  return out;
+  return __vel::put_chars(out, name.data(), name.size());
 }
 
 template <class _CharT, class _OutputIter>
@@ -254,11 +243,10 @@ _OutputIter num_put<_CharT, _OutputIter>::do_put(iter_type out, ios_base& str, c
   long pad = str.width() > len ? str.width() - len : 0;
   long adjust = str.flags() & ios_base::adjustfield;
   if (adjust == ios_base::left)
-    out = __repeat(out, fill, pad);
-  for (const char *next = buf, *end = buf + len; next < end; ++next, ++out)
-    *out = *next;
+    out = __vel::put_fill(out, fill, pad);
+  out = __vel::put_chars(out, buf, len);
   if (adjust == ios_base::right)
-    out = __repeat(out, fill, pad);
+    out = __vel::put_fill(out, fill, pad);
   str.width(0);
   return out;
 }

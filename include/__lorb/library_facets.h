@@ -1,0 +1,31 @@
+// Telling the library's own classes from a program's classes derived from them, by g++'s virtual
+// table pointer, so that fast paths take over only where the library's own behaviour is known.
+#ifndef __LORB_LIBRARY_FACETS_H
+#define __LORB_LIBRARY_FACETS_H
+
+#include <__lorb/ctype_facets.h>
+#include <__lorb/filebuf.h>
+
+// g++'s virtual tables of the two classes; an object's first word points two words in.
+extern "C" void* _ZTVSt13basic_filebufIcSt11char_traitsIcEE[];
+extern "C" void* _ZTVSt7codecvtIcciE[];
+
+namespace __vel {
+
+inline bool has_virtual_table(const void* object, void** table) {
+  return *static_cast<void* const*>(object) == static_cast<void*>(table + 2);
+}
+
+// The library's codecvt<char, char, int> itself, which never converts.
+inline bool is_library_codecvt(const std::codecvt<char, char, int>& convert) {
+  return has_virtual_table(&convert, _ZTVSt7codecvtIcciE);
+}
+
+// A basic_filebuf<char> itself, whose put area is always empty.
+inline bool is_library_filebuf(const std::basic_streambuf<char>* buffer) {
+  return has_virtual_table(buffer, _ZTVSt13basic_filebufIcSt11char_traitsIcEE);
+}
+
+} // namespace __vel
+
+#endif
