@@ -1,4 +1,4 @@
-// The ids of the numeric, time and monetary facets, and the trap of their unbuilt operations.
+// The ids of the time and monetary facets, and the trap of their unbuilt operations.
 #include <__lorb/placeholder_facets.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -14,7 +14,6 @@ namespace std {
 typedef istreambuf_iterator<char, char_traits<char> > __input_iterator;
 typedef ostreambuf_iterator<char, char_traits<char> > __output_iterator;
 
-template <> __LORB_EXPORT locale::id num_get<char, __input_iterator>::id = locale::id();
 template <> __LORB_EXPORT locale::id time_get<char, __input_iterator>::id = locale::id();
 template <> __LORB_EXPORT locale::id time_put<char, __output_iterator>::id = locale::id();
 template <> __LORB_EXPORT locale::id money_get<char, __input_iterator>::id = locale::id();

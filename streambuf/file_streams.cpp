@@ -3,23 +3,31 @@
 
 namespace std {
 
+basic_ifstream<char>::~basic_ifstream() {}
 basic_ofstream<char>::~basic_ofstream() {}
+basic_fstream<char>::~basic_fstream() {}
+
+void __vel_open_file_stream(basic_ios<char>& stream, basic_filebuf<char>& buffer, const char* name,
+                            ios_base::openmode mode, bool clear_on_success) {
+  if (!buffer.open(name, mode))
+    stream.setstate(ios_base::failbit);
+  else if (clear_on_success)
+    stream.clear();
+}
+
+void __vel_close_file_stream(basic_ios<char>& stream, basic_filebuf<char>& buffer) {
+  if (!buffer.close())
+    stream.setstate(ios_base::failbit);
+}
 
 void basic_ofstream<char>::__open(const char* name, ios_base::openmode mode) {
-  if (!__filebuf.open(name, mode | ios_base::out))
-    setstate(failbit);
+  __vel_open_file_stream(*this, __filebuf, name, mode | ios_base::out, false);
 }
 
 void basic_ofstream<char>::open(const char* name, ios_base::openmode mode) {
-  if (__filebuf.open(name, mode | ios_base::out))
-    clear();
-  else
-    setstate(failbit);
+  __vel_open_file_stream(*this, __filebuf, name, mode | ios_base::out, true);
 }
 
-void basic_ofstream<char>::close() {
-  if (!__filebuf.close())
-    setstate(failbit);
-}
+void basic_ofstream<char>::close() { __vel_close_file_stream(*this, __filebuf); }
 
 } // namespace std

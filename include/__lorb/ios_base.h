@@ -103,6 +103,15 @@ public:
   void*& pword(int i);
   void register_callback(event_callback fn, int index);
 
+  // Counts the users of the standard streams: the first builds cin, cout, cerr and clog, the
+  // last tears them down.
+  class __LORB_EXPORT Init {
+  public:
+    Init();
+    ~Init();
+    static int init_cnt;
+  };
+
   // Not a throw: "Failure in I/O\n" on standard error, then exit(1).
   static __LORB_NORETURN void throwfailure();
 

@@ -4,6 +4,7 @@
 #ifndef __LORB_NUM_PUT_H
 #define __LORB_NUM_PUT_H
 
+#include <__lorb/c_decimal_point.h>
 #include <__lorb/char_runs.h>
 #include <__lorb/config.h>
 #include <__lorb/ios_base.h>
@@ -33,9 +34,6 @@ inline void replace_placeholders(char* text, unsigned length, char separator) {
     if (*text == ',')
       *text = separator;
 }
-
-// The C library's decimal point, which sprintf writes.
-__LORB_EXPORT char c_decimal_point();
 
 } // namespace __vel
 

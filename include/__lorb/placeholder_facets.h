@@ -1,4 +1,4 @@
-// The numeric parsing, time and monetary facets that every locale holds but whose formatting and
+// The time and monetary facets that every locale holds but whose formatting and
 // parsing are not built yet: each has its id and its place in the locale, and every operation traps.
 #ifndef __LORB_PLACEHOLDER_FACETS_H
 #define __LORB_PLACEHOLDER_FACETS_H
@@ -26,23 +26,6 @@ namespace std {
 
 // The ids live in the library, for the char instances over the stream-buffer iterators. The
 // stream state argument is a template parameter only because ios_base is not complete here.
-template <class _CharT, class _InputIter = __LORB_INPUT_ITERATOR(_CharT)>
-class __LORB_EXPORT num_get : public locale::facet {
-public:
-  typedef _CharT char_type;
-  typedef _InputIter iter_type;
-  explicit num_get(size_t refs = 0) : locale::facet(refs) {}
-  static locale::id id;
-
-  template <class _State, class _Value>
-  iter_type get(iter_type, iter_type, ios_base&, _State&, _Value&) const {
-    __LORB_NOT_BUILT("num_get::get");
-  }
-
-protected:
-  ~num_get() {}
-};
-
 class __LORB_EXPORT time_base {
 public:
   enum dateorder { no_order, dmy, mdy, ymd, ydm };

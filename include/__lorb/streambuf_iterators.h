@@ -73,7 +73,10 @@ public:
   istreambuf_iterator(streambuf_type* sb) __LORB_NOEXCEPT : __buffer(sb) {}
   istreambuf_iterator(const proxy& p) __LORB_NOEXCEPT : __buffer(p.__buffer) {}
 
-  _CharT operator*() const { return _Traits::to_char_type(__buffer->sgetc()); }
+  // Without a buffer the character is end-of-file's.
+  _CharT operator*() const {
+    return _Traits::to_char_type(__buffer ? __buffer->sgetc() : _Traits::eof());
+  }
   istreambuf_iterator& operator++() {
     __buffer->sbumpc();
     return *this;

@@ -1,4 +1,4 @@
-// The numeric parsing, time and monetary facets that are not built yet: present in every locale,
+// The time and monetary facets that are not built yet: present in every locale,
 // and every operation traps. This list shrinks as each facet is built.
 #include "locale_test_support.h"
 #include "lorb_test.h"
@@ -6,7 +6,6 @@
 
 TEST(every_locale_holds_the_unbuilt_facets) {
   const std::locale& c = std::locale::classic();
-  CHECK(std::has_facet<num_get_facet>(c));
   CHECK(std::has_facet<time_get_facet>(c));
   CHECK(std::has_facet<time_put_facet>(c));
   CHECK(std::has_facet<money_get_facet>(c));
@@ -24,12 +23,6 @@ static std::ios_base& no_stream = *reinterpret_cast<std::ios_base*>(place_of_str
 static char text[8];
 static int state;
 static tm when;
-
-TEST(unbuilt_numeric_parsing_traps) {
-  usable<std::num_get<char, char*> > get;
-  long value = 0;
-  EXPECT_ABORT(get.get(text, text, no_stream, state, value), "num_get::get is not built yet\n");
-}
 
 TEST(unbuilt_time_operations_trap) {
   usable<std::time_get<char, char*> > get;
