@@ -1,4 +1,5 @@
 // The global allocation functions and the new-handler loop they run on exhausted memory.
+#include <__lorb/array_growth.h>
 #include <__lorb/runtime.h>
 #include <new>
 #include <stdlib.h>
@@ -86,3 +87,27 @@ void operator delete[](void*, void*) noexcept {}
 void operator delete(void* p, std::size_t) noexcept { operator delete(p); }
 
 void operator delete[](void* p, std::size_t) noexcept { operator delete[](p); }
+
+// The library's own definitions under names of their own, which the dynamic linker cannot bind
+// elsewhere: set against the global names, they tell whether the program replaced them.
+namespace __vel {
+extern void* library_new(std::size_t)
+    __attribute__((__alias__("_Znwj"), __malloc__, __alloc_size__(1)));
+extern void* library_array_new(std::size_t)
+    __attribute__((__alias__("_Znaj"), __malloc__, __alloc_size__(1)));
+extern void library_delete(void*) noexcept __attribute__((__alias__("_ZdlPv")));
+extern void library_array_delete(void*) noexcept __attribute__((__alias__("_ZdaPv")));
+
+bool allocation_is_replaced() {
+  static int replaced = -1;
+  if (replaced < 0) {
+    void* (*global_new)(std::size_t) = &::operator new;
+    void* (*global_array_new)(std::size_t) = &::operator new[];
+    void (*global_delete)(void*) noexcept = &::operator delete;
+    void (*global_array_delete)(void*) noexcept = &::operator delete[];
+    replaced = global_new != &library_new || global_array_new != &library_array_new ||
+               global_delete != &library_delete || global_array_delete != &library_array_delete;
+  }
+  return replaced != 0;
+}
+} // namespace __vel

@@ -1,5 +1,6 @@
 // std::basic_stringbuf<char>: growth of the shared array, reading what was written, putting
 // back, and the two seeks.
+#include <__lorb/array_growth.h>
 #include <__lorb/error.h>
 #include <__lorb/stringbuf.h>
 
@@ -68,12 +69,11 @@ basic_stringbuf<char>::int_type basic_stringbuf<char>::overflow(int_type c) {
     long get_offset = __gnext - __gbegin;
     unsigned long room =
         static_cast<unsigned long>(written) / growth_step * growth_step + growth_step;
-    char* array = new char[room];
+    // The new array takes the written characters and the old one is released; in place, when
+    // the C library can.
+    char* array = __vel::regrow_char_array(__array(), written, room);
     if (!array)
       __vel::out_of_memory();
-    if (written)
-      traits_type::copy(array, __pbegin, written);
-    delete[] __array();
     setg(0, 0, 0);
     __pbegin = array;
     __pnext = array + written;

@@ -19,6 +19,20 @@ for name in __record_needed_destruction __vel_std_atexit __process_needed_destru
   __T_Q2_3std8bad_cast __TID_Q2_3std8bad_cast __T_Q2_3std10bad_typeid __TID_Q2_3std10bad_typeid; do
   echo "$exported" | grep -qx "$name" || { echo "not exported: $name"; status=1; }
 done
+# The stream objects, their buffers and Init, and the parsing helpers the facets are built on.
+for name in _ZSt3cin _ZSt4cout _ZSt4cerr _ZSt4clog _ZSt11__trelk_fin _ZSt12__trelk_fout \
+  _ZSt12__trelk_ferr _ZNSt8ios_base4Init8init_cntE _ZNSt8ios_base4InitC1Ev _ZNSt8ios_base4InitD1Ev \
+  _ZSt22__trelk_check_groupingiiPKiRKSs _ZSt15__trelk_strtoulPKcRmi _ZSt14__trelk_strtolPKcRli \
+  _ZNKSt19istreambuf_iteratorIcSt11char_traitsIcEEdeEv \
+  _ZNSt19istreambuf_iteratorIcSt11char_traitsIcEEppEv \
+  _ZNKSt19istreambuf_iteratorIcSt11char_traitsIcEE5equalERKS2_ _ZSt22__vel_extract_c_stringRSiPc \
+  _ZNKSt7num_getIcSt19istreambuf_iteratorIcSt11char_traitsIcEEE22vel_scan_integral_typeERS3_S5_RSt8ios_baseRiim; do
+  echo "$exported" | grep -qx "$name" || { echo "not exported: $name"; status=1; }
+done
+# The standard streams are raw storage of their own size, built in place at start-up.
+for name in _ZSt3cin _ZSt4cout; do
+  nm -D -S --defined-only "$lib" | grep -q " [BD] $name\$" || { echo "$name is not a data object"; status=1; }
+done
 needed=$(readelf -d "$lib" | awk '/NEEDED/ {print $5}')
 [ "$needed" = "[libc.so.6]" ] || { echo "needs more than the C library: $needed"; status=1; }
 readelf -d "$lib" | grep -q 'SONAME.*\[liblorb++.so.1\]' || { echo "soname is not liblorb++.so.1"; status=1; }
