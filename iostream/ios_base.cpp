@@ -1,5 +1,5 @@
 // std::ios_base: its constants, construction and destruction, imbue, xalloc, iword/pword, the
-// event callbacks and throwfailure.
+// event callbacks, throwfailure and sync_with_stdio.
 #include <__lorb/ios_base.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -95,4 +95,13 @@ void ios_base::throwfailure() {
   exit(1);
 }
 
+namespace {
+bool in_step_with_stdio = true;
+}
+
+bool ios_base::sync_with_stdio(bool sync) {
+  bool previous = in_step_with_stdio;
+  in_step_with_stdio = sync;
+  return previous;
+}
 } // namespace std

@@ -112,6 +112,10 @@ public:
     static int init_cnt;
   };
 
+  // The standard streams keep no buffer of their own and so are always in step with the C
+  // library's: the setting is only remembered. Returns the previous one (true at first).
+  static bool sync_with_stdio(bool sync = true);
+
   // Not a throw: "Failure in I/O\n" on standard error, then exit(1).
   static __LORB_NORETURN void throwfailure();
 

@@ -453,3 +453,9 @@ TEST(destruction_with_empty_storages_frees_nothing) {
 TEST(throwfailure_prints_failure_in_io_and_exits_with_status_1) {
   EXPECT_EXIT(std::ios_base::throwfailure(), 1, "Failure in I/O\n");
 }
+
+ISOLATED_TEST(sync_with_stdio_remembers_the_setting_and_returns_the_previous_one) {
+  CHECK_EQ(std::ios_base::sync_with_stdio(false), true);
+  CHECK_EQ(std::ios_base::sync_with_stdio(), false);
+  CHECK_EQ(std::ios_base::sync_with_stdio(true), true);
+}
