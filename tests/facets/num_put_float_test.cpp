@@ -158,7 +158,8 @@ TEST(uppercase_turns_only_the_exponent_marker) {
   CHECK_PUT(s, __builtin_nan(""), "nan");
   CHECK_PUT(s, -__builtin_nanl(""), "-nan");
   s.setf(std::ios_base::fixed, std::ios_base::floatfield);
-  CHECK_PUT(s, __builtin_infl(), "inf");
+  if (!lt::long_double_is_emulated())
+    CHECK_PUT(s, __builtin_infl(), "inf");
 }
 
 TEST(a_text_without_a_decimal_point_is_integer_part_exponent_included) {
@@ -330,7 +331,8 @@ TEST(long_double_keeps_its_own_precision) {
   s.precision(20);
   long double v = 1.0L / 3;
   CHECK_PUT(s, v, c_text("%.*Lg", 20, v));
-  CHECK(c_text("%.*Lg", 20, v) != c_text("%.*g", 20, static_cast<double>(v)));
+  if (!lt::long_double_is_emulated())
+    CHECK(c_text("%.*Lg", 20, v) != c_text("%.*g", 20, static_cast<double>(v)));
   s.setf(std::ios_base::scientific, std::ios_base::floatfield);
   CHECK_PUT(s, LDBL_MAX, c_text("%.*Le", 20, LDBL_MAX));
   CHECK_PUT(s, LDBL_MIN, c_text("%.*Le", 20, LDBL_MIN));

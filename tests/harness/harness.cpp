@@ -86,6 +86,11 @@ shown show(const void* pointer) {
   return s;
 }
 
+bool long_double_is_emulated() {
+  const char* memcheck = getenv("LORB_MEMCHECK");
+  return memcheck && strcmp(memcheck, "1") == 0;
+}
+
 bool check_bytes(const char* actual, size_t actual_length, const char* expected,
                  size_t expected_length, const char* file, int line, const char* what) {
   ++checks_run;

@@ -61,6 +61,10 @@ bool check_bytes(const char* actual, size_t actual_length, const char* expected,
 bool check_str(const char* actual, const char* expected, const char* file, int line,
                const char* what);
 
+// True under `make memcheck`, whose valgrind computes long double with double's precision:
+// checks of the full 80-bit precision are left out there.
+bool long_double_is_emulated();
+
 // A child process whose standard output and error go to files the parent reads back.
 struct outcome {
   bool aborted;    // killed by SIGABRT
