@@ -102,10 +102,6 @@ _Unsigned scan_integer(_InputIter& in, _InputIter& end, std::ios_base& str, int&
       }
       positions[separators++] = count;
     } else {
-      if (count == scan_digit_room) { // no room for the digit: an overflow
-        overflow = true;
-        break;
-      }
       if (base == 16) {
         if (acc >> (bits - 4)) {
           overflow = true;
@@ -119,6 +115,10 @@ _Unsigned scan_integer(_InputIter& in, _InputIter& end, std::ios_base& str, int&
         }
         acc = acc * 8 | d;
       } else {
+        if (count == scan_digit_room) { // no room to keep the digit: an overflow
+          overflow = true;
+          break;
+        }
         digits[count] = static_cast<unsigned char>(d);
         acc = acc * 10 + d;
       }

@@ -1,0 +1,595 @@
+// num_get for unsigned short, unsigned int, long, unsigned long, long long and unsigned long long:
+// the sign before the white space, the bases and the '0x' prefix, overflow in every base (the
+// decimal value-went-down rule and a wrap it misses), saturation, the range check, no digits,
+// eofbit, the value stored on failure, and a missing facet. Every reading goes through both
+// instances: over char* and over a string buffer's istreambuf_iterator.
+#include "lorb_test.h"
+#include <limits.h>
+#include <locale>
+#include <sstream>
+#include <stdio.h>
+#include <string.h>
+#include <string>
+
+namespace {
+
+typedef std::istreambuf_iterator<char> buffer_iterator;
+typedef std::num_get<char, buffer_iterator> buffer_num_get;
+typedef std::num_get<char, char*> array_num_get;
+typedef std::ios_base::iostate iostate;
+
+const iostate good = std::ios_base::goodbit;
+const iostate eof = std::ios_base::eofbit;
+const iostate fail = std::ios_base::failbit;
+const iostate fail_eof = std::ios_base::failbit | std::ios_base::eofbit;
+
+const std::ios_base::fmtflags skipws = std::ios_base::skipws;
+const std::ios_base::fmtflags dec = std::ios_base::dec | skipws;
+const std::ios_base::fmtflags hex = std::ios_base::hex | skipws;
+const std::ios_base::fmtflags oct = std::ios_base::oct | skipws;
+const std::ios_base::fmtflags no_base = skipws;
+
+// The char* instance, owned here (refs 1).
+struct array_reader : array_num_get {
+  array_reader() : array_num_get(1) {}
+  ~array_reader() {}
+};
+
+// What one get did: the value left in v, the bits set and the characters taken.
+template <class T> struct reading {
+  T value;
+  iostate err;
+  size_t taken;
+  bool end_agrees; // the returned iterator is at end exactly when nothing is left
+};
+
+template <class T> reading<T> read_array(const std::string& text, std::ios_base& str, T before) {
+  char* first = new char[text.size() + 1];
+  memcpy(first, text.data(), text.size());
+  first[text.size()] = '\x7f';
+  array_reader facet;
+  reading<T> r = {before, good, 0, true};
+  char* stop = facet.get(first, first + text.size(), str, r.err, r.value);
+  r.taken = static_cast<size_t>(stop - first);
+  delete[] first;
+  return r;
+}
+
+// The stream's own instance, from its locale, over its string buffer; what is left in the
+// buffer afterwards tells how much was taken.
+template <class T> reading<T> read_buffer(std::istringstream& s, size_t length, T before) {
+  const buffer_num_get& facet = std::use_facet<buffer_num_get>(s.getloc());
+  reading<T> r = {before, good, 0, true};
+  buffer_iterator stop =
+      facet.get(buffer_iterator(s.rdbuf()), buffer_iterator(), s, r.err, r.value);
+  r.end_agrees = (stop == buffer_iterator()) == (s.rdbuf()->sgetc() == EOF);
+  size_t left = 0;
+  while (s.rdbuf()->sbumpc() != EOF)
+    ++left;
+  r.taken = length - left;
+  return r;
+}
+
+template <class T>
+void check_reading(const reading<T>& r, T expected, iostate err, size_t taken, const char* file,
+                   int line, const char* instance) {
+  char what[128];
+  snprintf(what, sizeof what, "value through the %s instance", instance);
+  lt::check_eq(r.value, expected, file, line, what, "expected value");
+  snprintf(what, sizeof what, "bits through the %s instance", instance);
+  lt::check_eq(static_cast<int>(r.err), static_cast<int>(err), file, line, what, "expected bits");
+  snprintf(what, sizeof what, "characters taken by the %s instance", instance);
+  lt::check_eq(r.taken, taken, file, line, what, "expected count");
+  lt::check(r.end_agrees, file, line, "the returned iterator is at end exactly when the input is");
+}
+
+// Reads text into a T that holds `before`, with flags and the classic locale, through both
+// instances; each must leave `expected`, set exactly `err` and take `taken` characters.
+template <class T>
+void check_get(const std::string& text, std::ios_base::fmtflags flags, const std::locale& loc,
+               T before, T expected, iostate err, size_t taken, const char* file, int line) {
+  std::istringstream s(text);
+  s.flags(flags);
+  s.imbue(loc);
+  check_reading(read_array(text, s, before), expected, err, taken, file, line, "char*");
+  check_reading(read_buffer(s, text.size(), before), expected, err, taken, file, line,
+                "istreambuf_iterator");
+}
+
+#define CHECK_GET_IN(loc, type, text, flags, expected, err, taken)                                 \
+  check_get<type>((text), (flags), (loc), static_cast<type>(77), static_cast<type>(expected),      \
+                  (err), (taken), __FILE__, __LINE__)
+
+#define CHECK_GET(type, text, flags, expected, err, taken)                                         \
+  CHECK_GET_IN(std::locale::classic(), type, text, flags, expected, err, taken)
+
+// A text read whole, with the input ending right after it.
+#define CHECK_READS(type, text, flags, expected)                                                   \
+  CHECK_GET(type, text, flags, expected, eof, strlen(text))
+
+// The same with one blank after it: the input does not end, and the blank stays.
+#define CHECK_READS_BEFORE_BLANK(type, text, flags, expected)                                      \
+  CHECK_GET(type, std::string(text) + " ", flags, expected, good, strlen(text))
+
+// Classifies '_' as white space and the blank as not.
+struct underscore_space_ctype : std::ctype<char> {
+  underscore_space_ctype() : std::ctype<char>(table(), false, 0) {}
+  static const mask* table() {
+    static mask t[table_size];
+    memcpy(t, classic_table, sizeof t);
+    t[static_cast<unsigned char>('_')] |= space;
+    t[static_cast<unsigned char>(' ')] &= static_cast<mask>(~space);
+    return t;
+  }
+};
+
+// A buffer without a get area: every look is an underflow, every step a uflow, counted.
+struct trickle_buffer : std::basic_streambuf<char> {
+  const char* next;
+  int uflows;
+  explicit trickle_buffer(const char* text) : next(text), uflows(0) {}
+
+protected:
+  int_type underflow() { return *next ? traits_type::to_int_type(*next) : traits_type::eof(); }
+  int_type uflow() {
+    ++uflows;
+    return *next ? traits_type::to_int_type(*next++) : traits_type::eof();
+  }
+};
+
+// A small deterministic generator.
+struct generator {
+  unsigned long state;
+  explicit generator(unsigned long seed) : state(seed) {}
+  unsigned long next() {
+    state = state * 1103515245ul + 12345ul;
+    unsigned long high = state >> 16;
+    state = state * 1103515245ul + 12345ul;
+    return (high << 16) ^ (state >> 16) ^ (state << 16);
+  }
+};
+
+std::string text_of(const char* format, unsigned long v) {
+  char text[64];
+  snprintf(text, sizeof text, format, v);
+  return text;
+}
+
+// The decimal overflow rule worked by hand over a 32-bit accumulator: each step is
+// acc * 10 + d, wrapping; past nine digits a step whose value is below the one before it is
+// an overflow. Returns false for an overflow, else the wrapped value through acc.
+bool decimal_rule(const std::string& digits, unsigned long& acc) {
+  acc = 0;
+  bool checked = digits.size() > 9;
+  for (size_t i = 0; i < digits.size(); ++i) {
+    unsigned long previous = acc;
+    acc = acc * 10 + static_cast<unsigned long>(digits[i] - '0');
+    if (checked && acc < previous)
+      return false;
+  }
+  return true;
+}
+
+// The exact value of up to 19 decimal digits.
+unsigned long long exact_value(const std::string& digits) {
+  unsigned long long v = 0;
+  for (size_t i = 0; i < digits.size(); ++i)
+    v = v * 10 + static_cast<unsigned long long>(digits[i] - '0');
+  return v;
+}
+
+// A locale like the classic one whose table has no entry for _Facet.
+template <class _Facet> std::locale locale_without() {
+  std::locale copy(std::locale::classic(), new std::numpunct<char>);
+  std::locale::facet*& entry = copy.__imp->facets.data[_Facet::id.__number()];
+  std::locale::facet* held = entry;
+  entry = 0;
+  held->__release();
+  return copy;
+}
+
+template <class T> void read_with_locale(const std::locale& loc) {
+  std::istringstream s("12");
+  s.std::ios_base::imbue(loc); // the stream's own imbue would want the ctype facet
+  array_reader facet;
+  char text[] = "12";
+  iostate err = good;
+  T v = 0;
+  facet.get(text, text + 2, s, err, v);
+  printf("%d %s\n", static_cast<int>(v), err == std::ios_base::eofbit ? "eof" : "other");
+}
+
+} // namespace
+
+// Values
+
+TEST(generated_unsigned_long_values_read_back_in_every_base) {
+  generator g(1);
+  for (int i = 0; i < 300; ++i) {
+    unsigned long v = g.next() >> (i % 32);
+    CHECK_READS(unsigned long, text_of("%lu", v).c_str(), dec, v);
+    CHECK_READS(unsigned int, text_of("%lu", v).c_str(), dec, v);
+    CHECK_READS(unsigned long, text_of("%lx", v).c_str(), hex, v);
+    CHECK_READS(unsigned long, text_of("%lX", v).c_str(), hex, v);
+    CHECK_READS(unsigned long, text_of("%#lx", v).c_str(), hex, v);
+    CHECK_READS(unsigned long, text_of("%#lX", v).c_str(), no_base, v);
+    CHECK_READS(unsigned long, text_of("%lo", v).c_str(), oct, v);
+    CHECK_READS_BEFORE_BLANK(unsigned long, text_of("%lu", v).c_str(), dec, v);
+    if (v != 0) // a zero has no prefix, and would read as a lone zero anyway
+      CHECK_READS(unsigned long, text_of("%#lo", v).c_str(), no_base, v);
+  }
+}
+
+TEST(generated_long_values_read_back_with_their_sign) {
+  generator g(2);
+  for (int i = 0; i < 300; ++i) {
+    long v = static_cast<long>(g.next() >> (i % 32));
+    char text[32];
+    snprintf(text, sizeof text, "%ld", v);
+    CHECK_READS(long, text, dec, v);
+    snprintf(text, sizeof text, "%ld", -v);
+    if (v != LONG_MIN)
+      CHECK_READS(long, text, dec, -v);
+  }
+}
+
+TEST(unsigned_short_reads_its_whole_range) {
+  for (unsigned long v = 0; v <= 65535; v += v < 300 ? 1 : 251) {
+    CHECK_READS(unsigned short, text_of("%lu", v).c_str(), dec, v);
+    CHECK_READS(unsigned short, text_of("%lx", v).c_str(), hex, v);
+  }
+  CHECK_READS(unsigned short, "65535", dec, 65535);
+}
+
+// The sign, then the white space
+
+TEST(white_space_is_skipped_after_the_sign_so_minus_blank_12_reads_minus_12) {
+  CHECK_READS(long, "- 12", dec, -12);
+  CHECK_READS(long, "-\t\n\v\f\r 12", dec, -12);
+  CHECK_READS(long, "+ 12", dec, 12);
+  CHECK_READS(unsigned long, "- 1", dec, 0xFFFFFFFFul);
+}
+
+TEST(white_space_is_what_the_stream_ctype_calls_space) {
+  std::locale loc(std::locale::classic(), new underscore_space_ctype);
+  CHECK_GET_IN(loc, long, "-__12", dec, -12, eof, 5);
+  CHECK_GET_IN(loc, unsigned long, "_0x1F", no_base, 31, eof, 5);
+  CHECK_GET_IN(loc, long, "- 12", dec, 0, fail, 1);
+}
+
+TEST(white_space_before_the_sign_leaves_the_sign_unread_as_a_digit) {
+  CHECK_GET(long, " -12", dec, 0, fail, 1);
+  CHECK_READS(long, "  12", dec, 12);
+}
+
+TEST(without_skipws_white_space_after_the_sign_means_no_digits) {
+  CHECK_GET(long, "- 12", std::ios_base::dec, 0, fail, 1);
+  CHECK_GET(long, " 12", std::ios_base::dec, 0, fail, 0);
+  CHECK_READS(long, "-12", std::ios_base::dec, -12);
+}
+
+TEST(a_plus_is_taken_and_ignored_and_a_second_sign_is_no_digit) {
+  CHECK_READS(long, "+7", dec, 7);
+  CHECK_READS(unsigned short, "+7", dec, 7);
+  CHECK_GET(long, "+-7", dec, 0, fail, 1);
+  CHECK_GET(long, "-+7", dec, 0, fail, 1);
+  CHECK_GET(long, "--7", dec, 0, fail, 1);
+  CHECK_READS(long, "-0", dec, 0);
+}
+
+// Bases and the prefix
+
+TEST(hex_0x1F_reads_31_with_basefield_hex_or_none) {
+  CHECK_READS(unsigned long, "0x1F", hex, 31);
+  CHECK_READS(unsigned long, "0x1F", no_base, 31);
+  CHECK_READS(unsigned long, "0X1f", no_base, 31);
+  CHECK_READS(unsigned long, "1F", hex, 31);
+  CHECK_READS(long, "-0x1f", no_base, -31);
+  CHECK_READS(unsigned long, "aBcDeF", hex, 0xABCDEFul);
+}
+
+TEST(an_x_after_a_zero_is_no_prefix_in_dec_or_oct) {
+  CHECK_GET(unsigned long, "0x1F", dec, 0, good, 1);
+  CHECK_GET(unsigned long, "0x1F", oct, 0, good, 1);
+  CHECK_READS(unsigned long, "017", dec, 17);
+}
+
+TEST(zero_x_followed_by_no_digit_fails_with_0_and_the_x_taken) {
+  CHECK_GET(unsigned long, "0xg", no_base, 0, fail, 2);
+  CHECK_GET(unsigned long, "0xg", hex, 0, fail, 2);
+  CHECK_GET(unsigned long, "0x", hex, 0, fail_eof, 2);
+  CHECK_GET(long, "-0X ", no_base, 0, fail, 3);
+}
+
+TEST(a_lone_zero_reads_0_in_every_base) {
+  const std::ios_base::fmtflags bases[] = {dec, hex, oct, no_base};
+  for (int i = 0; i < 4; ++i) {
+    CHECK_READS(unsigned long, "0", bases[i], 0);
+    CHECK_READS(long, "-0", bases[i], 0);
+    CHECK_READS_BEFORE_BLANK(unsigned short, "0", bases[i], 0);
+  }
+}
+
+TEST(with_no_basefield_017_reads_15_and_17_fails) {
+  CHECK_READS(unsigned long, "017", no_base, 15);
+  CHECK_GET(unsigned long, "17", no_base, 0, fail, 0);
+  CHECK_GET(long, "-17", no_base, 0, fail, 1);
+  CHECK_READS(unsigned long, "17", oct, 15);
+  CHECK_READS(unsigned long, "017", oct, 15);
+}
+
+TEST(several_basefield_bits_read_like_none) {
+  const std::ios_base::fmtflags mixtures[] = {
+      std::ios_base::dec | std::ios_base::hex, std::ios_base::dec | std::ios_base::oct,
+      std::ios_base::hex | std::ios_base::oct, std::ios_base::basefield};
+  for (int i = 0; i < 4; ++i) {
+    CHECK_GET(unsigned long, "12", mixtures[i], 0, fail, 0);
+    CHECK_READS(unsigned long, "012", mixtures[i], 10);
+    CHECK_READS(unsigned long, "0x10", mixtures[i], 16);
+  }
+}
+
+TEST(a_leading_zero_makes_octal_whose_digits_end_at_8) {
+  CHECK_GET(unsigned long, "09", no_base, 0, good, 1);
+  CHECK_GET(unsigned long, "0178", no_base, 15, good, 3);
+  CHECK_GET(unsigned long, "178", oct, 15, good, 2);
+  CHECK_GET(unsigned long, "12a", dec, 12, good, 2);
+  CHECK_GET(unsigned long, "1fg", hex, 31, good, 2);
+}
+
+// No digits
+
+TEST(no_digits_fails_and_stores_0) {
+  CHECK_GET(unsigned long, "", dec, 0, fail_eof, 0);
+  CHECK_GET(long, "", hex, 0, fail_eof, 0);
+  CHECK_GET(unsigned short, "abc", dec, 0, fail, 0);
+  CHECK_GET(unsigned int, "g", hex, 0, fail, 0);
+  CHECK_GET(unsigned long, "8", oct, 0, fail, 0);
+  CHECK_GET(long, "-", dec, 0, fail_eof, 1);
+  CHECK_GET(long, "+x", dec, 0, fail, 1);
+  CHECK_GET(long, "   ", dec, 0, fail_eof, 3);
+  CHECK_GET(unsigned long, ".5", dec, 0, fail, 0);
+}
+
+// Decimal overflow
+
+TEST(unsigned_long_4294967295_reads_and_4294967296_fails_with_the_maximum) {
+  CHECK_READS(unsigned long, "4294967295", dec, 0xFFFFFFFFul);
+  CHECK_READS(unsigned int, "4294967295", dec, 0xFFFFFFFFu);
+  CHECK_GET(unsigned long, "4294967296", dec, 0xFFFFFFFFul, fail_eof, 10);
+  CHECK_GET(unsigned int, "4294967296", dec, 0xFFFFFFFFu, fail_eof, 10);
+  CHECK_GET(unsigned long, "99999999999 ", dec, 0xFFFFFFFFul, fail, 11);
+}
+
+TEST(leading_zeros_do_not_count_toward_overflow) {
+  CHECK_READS(unsigned long, "000000000004294967295", dec, 0xFFFFFFFFul);
+  CHECK_READS(long, "-00000000000000000002147483648", dec, LONG_MIN);
+  CHECK_READS(unsigned long, "0000000000000000000000000000000001", dec, 1);
+}
+
+// 5000000000 is 705032704 past 2^32, more than the 500000000 before the last step.
+TEST(a_wrap_that_leaves_the_value_higher_is_missed_and_reads_as_the_wrapped_value) {
+  CHECK_READS(unsigned long, "5000000000", dec, 705032704ul);
+  CHECK_READS(long, "5000000000", dec, 705032704L);
+  CHECK_READS(unsigned long, "10000000000", dec, 1410065408ul); // 10^10 - 2 * 2^32
+  CHECK_READS(unsigned long, "-5000000000", dec, 0ul - 705032704ul);
+  // 100000000000: the step from 1410065408 wraps to 1215752192, which is lower.
+  CHECK_GET(unsigned long, "100000000000", dec, 0xFFFFFFFFul, fail_eof, 12);
+}
+
+TEST(generated_long_decimal_texts_follow_the_value_went_down_rule) {
+  generator g(3);
+  int missed = 0, caught = 0;
+  for (int i = 0; i < 600; ++i) {
+    std::string digits(1, static_cast<char>('1' + g.next() % 9));
+    size_t length = 10 + g.next() % 3;
+    while (digits.size() < length)
+      digits += static_cast<char>('0' + g.next() % 10);
+    unsigned long wrapped;
+    bool fits = decimal_rule(digits, wrapped);
+    unsigned long long exact = exact_value(digits);
+    if (exact <= 0xFFFFFFFFull)
+      CHECK(fits && wrapped == exact); // the rule never rejects a value that fits
+    if (fits && exact > 0xFFFFFFFFull)
+      ++missed;
+    if (!fits)
+      ++caught;
+    if (fits) {
+      CHECK_READS(unsigned long, digits.c_str(), dec, wrapped);
+      if (wrapped <= 0x7FFFFFFFul)
+        CHECK_READS(long, digits.c_str(), dec, wrapped);
+      else
+        CHECK_GET(long, digits, dec, LONG_MAX, fail_eof, digits.size());
+    } else {
+      CHECK_GET(unsigned long, digits, dec, 0xFFFFFFFFul, fail_eof, digits.size());
+      CHECK_GET(long, digits, dec, LONG_MAX, fail_eof, digits.size());
+      CHECK_GET(long, "-" + digits, dec, LONG_MIN, fail_eof, digits.size() + 1);
+    }
+  }
+  CHECK(missed > 0 && caught > 0); // the generator reaches both kinds of wrap
+}
+
+// Signed range and saturation
+
+TEST(long_reads_its_limits_and_saturates_past_them) {
+  CHECK_READS(long, "2147483647", dec, LONG_MAX);
+  CHECK_READS(long, "-2147483648", dec, LONG_MIN);
+  CHECK_GET(long, "2147483648", dec, LONG_MAX, fail_eof, 10);
+  CHECK_GET(long, "-2147483649", dec, LONG_MIN, fail_eof, 11);
+  CHECK_GET(long, "4294967295", dec, LONG_MAX, fail_eof, 10);
+  CHECK_GET(long, "4294967296", dec, LONG_MAX, fail_eof, 10);
+  CHECK_GET(long, "-4294967296", dec, LONG_MIN, fail_eof, 11);
+  CHECK_GET(long, "-99999999999 ", dec, LONG_MIN, fail, 12);
+}
+
+TEST(long_in_hex_and_octal_takes_the_same_range) {
+  CHECK_READS(long, "7FFFFFFF", hex, LONG_MAX);
+  CHECK_READS(long, "-80000000", hex, LONG_MIN);
+  CHECK_READS(long, "-0x80000000", no_base, LONG_MIN);
+  CHECK_READS(long, "-1", hex, -1L);
+  CHECK_GET(long, "80000000", hex, LONG_MAX, fail_eof, 8);
+  CHECK_GET(long, "FFFFFFFF", hex, LONG_MAX, fail_eof, 8);
+  CHECK_GET(long, "-80000001", hex, LONG_MIN, fail_eof, 9);
+  CHECK_READS(long, "17777777777", oct, LONG_MAX);
+  CHECK_READS(long, "-20000000000", oct, LONG_MIN);
+  CHECK_GET(long, "20000000000", oct, LONG_MAX, fail_eof, 11);
+}
+
+// Unsigned range: "-" gives the negation within the type
+
+TEST(minus_1_as_unsigned_reads_the_maximum) {
+  CHECK_READS(unsigned long, "-1", dec, 0xFFFFFFFFul);
+  CHECK_READS(unsigned int, "-1", dec, 0xFFFFFFFFu);
+  CHECK_READS(unsigned short, "-1", dec, 65535);
+  CHECK_READS(unsigned long, "-0x10", no_base, 0xFFFFFFF0ul);
+  CHECK_READS(unsigned long, "-2147483647", dec, 0x80000001ul);
+}
+
+TEST(a_negative_unsigned_with_the_top_bit_set_is_accepted_only_at_half) {
+  CHECK_READS(unsigned long, "-2147483648", dec, 0x80000000ul);
+  CHECK_GET(unsigned long, "-2147483649", dec, 0xFFFFFFFFul, fail_eof, 11);
+  CHECK_GET(unsigned long, "-4294967295", dec, 0xFFFFFFFFul, fail_eof, 11);
+  CHECK_GET(unsigned int, "-FFFFFFFF", hex, 0xFFFFFFFFu, fail_eof, 9);
+  CHECK_READS(unsigned short, "-32768", dec, 32768);
+  CHECK_READS(unsigned short, "-32767", dec, 32769);
+  CHECK_GET(unsigned short, "-32769", dec, 65535, fail_eof, 6);
+  CHECK_GET(unsigned short, "-65535", dec, 65535, fail_eof, 6);
+}
+
+TEST(unsigned_short_70000_fails_with_65535) {
+  CHECK_GET(unsigned short, "70000", dec, 65535, fail_eof, 5);
+  CHECK_GET(unsigned short, "65536", dec, 65535, fail_eof, 5);
+  CHECK_GET(unsigned short, "10000", hex, 65535, fail_eof, 5);
+  CHECK_GET(unsigned short, "200000", oct, 65535, fail_eof, 6);
+  CHECK_GET(unsigned short, "-65536", dec, 65535, fail_eof, 6); // no "+1" for an unsigned type
+  CHECK_GET(unsigned short, "4294967296", dec, 65535, fail_eof, 10);
+  CHECK_READS(unsigned short, "FFFF", hex, 65535);
+  CHECK_READS(unsigned short, "177777", oct, 65535);
+}
+
+TEST(unsigned_int_takes_the_range_of_unsigned_long) {
+  CHECK_READS(unsigned int, "0xFFFFFFFF", no_base, 0xFFFFFFFFu);
+  CHECK_READS(unsigned int, "-2147483648", dec, 0x80000000u);
+  CHECK_READS(unsigned int, "2147483648", dec, 0x80000000u);
+  CHECK_GET(unsigned int, "-2147483649", dec, 0xFFFFFFFFu, fail_eof, 11);
+}
+
+// Hex and octal overflow: the digit that would not fit stays unread
+
+TEST(hex_overflows_before_a_ninth_significant_digit) {
+  CHECK_READS(unsigned long, "FFFFFFFF", hex, 0xFFFFFFFFul);
+  CHECK_READS(unsigned long, "0x00000000000FFFFFFFF", no_base, 0xFFFFFFFFul);
+  CHECK_GET(unsigned long, "100000000", hex, 0xFFFFFFFFul, fail, 8);
+  CHECK_GET(unsigned long, "0x123456789", no_base, 0xFFFFFFFFul, fail, 10);
+  CHECK_GET(long, "123456789", hex, LONG_MAX, fail, 8);
+  CHECK_GET(long, "-123456789", hex, LONG_MIN, fail, 9);
+  CHECK_GET(unsigned short, "123456789", hex, 65535, fail, 8);
+  CHECK_GET(unsigned long, "10000000g", hex, 0x10000000ul, good, 8); // no ninth digit came
+}
+
+// 0x1FFFFFFF (bits 0 to 28) may take one more octal digit; 0x20000000 may not.
+TEST(octal_overflows_when_one_of_the_top_three_bits_is_set) {
+  CHECK_READS(unsigned long, "37777777777", oct, 0xFFFFFFFFul);
+  CHECK_READS(unsigned long, "037777777777", no_base, 0xFFFFFFFFul);
+  CHECK_GET(unsigned long, "40000000000", oct, 0xFFFFFFFFul, fail, 10);
+  CHECK_GET(unsigned long, "040000000000", no_base, 0xFFFFFFFFul, fail, 11);
+  CHECK_GET(long, "-777777777777", oct, LONG_MIN, fail, 11);
+  CHECK_GET(unsigned long, "-37777777777", oct, 0xFFFFFFFFul, fail_eof, 12);
+}
+
+// The 64-bit targets: the same rules over a 64-bit accumulator
+
+TEST(long_long_reads_its_limits_and_saturates_past_them) {
+  CHECK_READS(long long, "9223372036854775807", dec, LLONG_MAX);
+  CHECK_READS(long long, "-9223372036854775808", dec, LLONG_MIN);
+  CHECK_READS(long long, "4294967296", dec, 4294967296LL);
+  CHECK_READS(long long, "-4294967296", dec, -4294967296LL);
+  CHECK_GET(long long, "9223372036854775808", dec, LLONG_MAX, fail_eof, 19);
+  CHECK_GET(long long, "-9223372036854775809", dec, LLONG_MIN, fail_eof, 20);
+  CHECK_GET(long long, "18446744073709551616", dec, LLONG_MAX, fail_eof, 20);
+  CHECK_READS(long long, "-8000000000000000", hex, LLONG_MIN);
+  CHECK_GET(long long, "8000000000000000", hex, LLONG_MAX, fail_eof, 16);
+}
+
+TEST(unsigned_long_long_reads_its_limits_and_saturates_past_them) {
+  CHECK_READS(unsigned long long, "18446744073709551615", dec, ULLONG_MAX);
+  CHECK_READS(unsigned long long, "-1", dec, ULLONG_MAX);
+  CHECK_READS(unsigned long long, "-9223372036854775808", dec, 0x8000000000000000ull);
+  CHECK_GET(unsigned long long, "-9223372036854775809", dec, ULLONG_MAX, fail_eof, 20);
+  CHECK_GET(unsigned long long, "18446744073709551616", dec, ULLONG_MAX, fail_eof, 20);
+  CHECK_READS(unsigned long long, "0xFFFFFFFFFFFFFFFF", no_base, ULLONG_MAX);
+  CHECK_GET(unsigned long long, "10000000000000000", hex, ULLONG_MAX, fail, 16);
+  CHECK_READS(unsigned long long, "1777777777777777777777", oct, ULLONG_MAX);
+  CHECK_GET(unsigned long long, "2000000000000000000000", oct, ULLONG_MAX, fail, 21);
+}
+
+// 3 * 10^19 is 11553255926290448384 past 2^64, more than 3 * 10^18: the wrap is missed.
+TEST(a_64_bit_wrap_that_leaves_the_value_higher_is_missed_too) {
+  CHECK_READS(unsigned long long, "30000000000000000000", dec, 11553255926290448384ull);
+  CHECK_GET(long long, "30000000000000000000", dec, LLONG_MAX, fail_eof, 20);
+  CHECK_READS(unsigned long long, "10000000000000000000", dec, 10000000000000000000ull);
+}
+
+TEST(generated_64_bit_values_read_back) {
+  generator g(4);
+  for (int i = 0; i < 200; ++i) {
+    unsigned long long v = (static_cast<unsigned long long>(g.next()) << 32 | g.next()) >> (i % 64);
+    char text[64];
+    snprintf(text, sizeof text, "%llu", v);
+    CHECK_READS(unsigned long long, text, dec, v);
+    snprintf(text, sizeof text, "%#llx", v);
+    CHECK_READS(unsigned long long, text, hex, v);
+    snprintf(text, sizeof text, "%lld", static_cast<long long>(v));
+    CHECK_READS(long long, text, dec, static_cast<long long>(v));
+  }
+}
+
+TEST(over_a_buffer_without_a_get_area_each_character_is_taken_once) {
+  const char* texts[] = {"-12345 x", "0x1F;", "4294967296 ", "- 7", "017", ""};
+  const std::ios_base::fmtflags flags[] = {dec, no_base, dec, dec, no_base, dec};
+  const long values[] = {-12345, 31, LONG_MAX, -7, 15, 0};
+  const iostate bits[] = {good, good, fail, eof, eof, fail_eof};
+  const int taken[] = {6, 4, 10, 3, 3, 0};
+  for (int i = 0; i < 6; ++i) {
+    trickle_buffer buffer(texts[i]);
+    std::istringstream s;
+    s.flags(flags[i]);
+    const buffer_num_get& facet = std::use_facet<buffer_num_get>(s.getloc());
+    iostate err = good;
+    long v = 77;
+    facet.get(buffer_iterator(&buffer), buffer_iterator(), s, err, v);
+    CHECK_EQ(v, values[i]);
+    CHECK_EQ(static_cast<int>(err), static_cast<int>(bits[i]));
+    CHECK_EQ(buffer.uflows, static_cast<int>(buffer.next - texts[i]));
+    CHECK_EQ(buffer.uflows, taken[i]);
+  }
+}
+
+// eofbit and the value on failure
+
+TEST(eofbit_is_set_exactly_when_the_input_ended) {
+  CHECK_GET(unsigned long, "12", dec, 12, eof, 2);
+  CHECK_GET(unsigned long, "12x", dec, 12, good, 2);
+  CHECK_GET(unsigned long, "12\n", dec, 12, good, 2);
+  CHECK_GET(unsigned long, "4294967296x", dec, 0xFFFFFFFFul, fail, 10);
+  CHECK_GET(unsigned long, "0", hex, 0, eof, 1);
+}
+
+TEST(the_value_is_stored_on_every_failure) {
+  CHECK_GET(unsigned long, "x", dec, 0, fail, 0);
+  CHECK_GET(long, "-x", dec, 0, fail, 1);
+  CHECK_GET(long, "999999999999", dec, LONG_MAX, fail_eof, 12);
+  CHECK_GET(unsigned short, "99999", dec, 65535, fail_eof, 5);
+}
+
+// A missing facet
+
+TEST(a_missing_numpunct_or_ctype_aborts_with_the_bad_cast_message) {
+  EXPECT_CHILD(read_with_locale<long>(std::locale::classic()), lt::exits(0), "12 eof\n", "");
+  EXPECT_ABORT(read_with_locale<long>(locale_without<std::numpunct<char> >()),
+               "bad_cast: Facet not present\n\n");
+  EXPECT_ABORT(read_with_locale<unsigned short>(locale_without<std::ctype<char> >()),
+               "bad_cast: Facet not present\n\n");
+  EXPECT_ABORT(read_with_locale<unsigned long>(locale_without<std::ctype<char> >()),
+               "bad_cast: Facet not present\n\n");
+}
