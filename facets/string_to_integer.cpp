@@ -13,7 +13,11 @@ bool __trelk_strtoul(const char* s, unsigned long& result, int base) {
     negative = *s == '-';
     ++s;
   }
-  const char* first = s;
+  // Empty text after the sign is 0, in range.
+  if (*s == '\0') {
+    result = 0;
+    return true;
+  }
   while (*s == '0')
     ++s;
   unsigned long acc = 0;
@@ -34,10 +38,6 @@ bool __trelk_strtoul(const char* s, unsigned long& result, int base) {
       in_range = false;
       break;
     }
-  }
-  if (s == first) {
-    result = 0;
-    return true;
   }
   result = negative ? 0ul - acc : acc;
   return in_range;

@@ -1,5 +1,6 @@
 // std::basic_istream<char>: the sentry, the numeric extractors through num_get and the
 // stream-buffer extractor; std::basic_iostream<char>.
+#include <__lorb/give_back.h>
 #include <__lorb/istream.h>
 
 namespace std {
@@ -19,7 +20,7 @@ basic_istream<char>::sentry::sentry(basic_istream& is, bool noskipws) : __ok(fal
       // Kept: meeting the end here sets nothing; the extraction that follows meets it itself.
       for (int_type c = sb->sbumpc(); c != traits_type::eof(); c = sb->sbumpc()) {
         if (!ct.is(ctype_base::space, traits_type::to_char_type(c))) {
-          sb->sputbackc(traits_type::to_char_type(c));
+          __vel::give_back(sb, c);
           break;
         }
       }

@@ -1,5 +1,6 @@
 // std::basic_istream<char>: the unformatted reads (get, getline, ignore, peek, read, readsome,
 // putback, unget), sync and positions.
+#include <__lorb/give_back.h>
 #include <__lorb/istream.h>
 
 namespace std {
@@ -103,7 +104,7 @@ basic_istream<char>& basic_istream<char>::getline(char* s, streamsize n, char de
         break;
       }
       if (__gcount == n - 1) {
-        __buffer->sputbackc(traits::to_char_type(c));
+        __vel::give_back(__buffer, c);
         error = failbit;
         break;
       }

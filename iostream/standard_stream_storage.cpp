@@ -7,7 +7,7 @@
 // compiler spells them (std::cin, std::cout, std::cerr, std::clog).
 #define __LORB_STREAM_STORAGE(_Type, name, symbol)                                                 \
   __LORB_EXPORT                                                                                    \
-      __attribute__((__aligned__(__alignof__(_Type)))) char name[sizeof(_Type)] __asm__(symbol)
+  __attribute__((__aligned__(__alignof__(_Type)))) char name[sizeof(_Type)] __asm__(symbol)
 
 __LORB_STREAM_STORAGE(std::basic_istream<char>, cin_storage, "_ZSt3cin");
 __LORB_STREAM_STORAGE(std::basic_ostream<char>, cout_storage, "_ZSt4cout");

@@ -1,4 +1,5 @@
 // The character, C-string and string extractors, std::getline for strings, and ws.
+#include <__lorb/give_back.h>
 #include <__lorb/istream.h>
 #include <string>
 
@@ -40,7 +41,7 @@ basic_istream<char>& __vel_extract_c_string(basic_istream<char>& is, char* s) {
         break;
       int c = sb->sbumpc();
       if (ct.is(ctype_base::space, traits::to_char_type(c))) {
-        sb->sputbackc(traits::to_char_type(c));
+        __vel::give_back(sb, c);
         break;
       }
       if (c == end_of_file) {
@@ -100,7 +101,7 @@ basic_istream<char>& operator>>(basic_istream<char>& is, string& s) {
         break;
       }
       if (ct.is(ctype_base::space, traits::to_char_type(c))) {
-        sb->sputbackc(traits::to_char_type(c));
+        __vel::give_back(sb, c);
         break;
       }
       word.add(traits::to_char_type(c));
@@ -135,7 +136,7 @@ basic_istream<char>& getline(basic_istream<char>& is, string& s, char delim) {
       if (traits::to_char_type(c) == delim)
         break;
       if (taken > limit) {
-        sb->sputbackc(traits::to_char_type(c));
+        __vel::give_back(sb, c);
         error = ios_base::failbit;
         break;
       }
@@ -153,11 +154,13 @@ basic_istream<char>& getline(basic_istream<char>& is, string& s) {
   return getline(is, s, is.widen('\n'));
 }
 
+// An unformatted input operation: a stream that is not good gets failbit and is not read.
 basic_istream<char>& ws(basic_istream<char>& is) {
+  basic_istream<char>::sentry ok(is, true);
+  if (!ok)
+    return is;
   const ctype<char>& ct = use_facet<ctype<char> >(is.__locale);
   basic_streambuf<char>* sb = is.rdbuf();
-  if (!sb)
-    return is;
   for (int c = sb->sgetc();; c = sb->snextc()) {
     if (c == end_of_file) {
       is.setstate(ios_base::eofbit);

@@ -15,9 +15,11 @@ template <class _InputIter> inline int peek_char(const _InputIter& in, const _In
 // An end iterator without a buffer is the usual end-of-stream: one sgetc answers both questions.
 inline int peek_char(const std::istreambuf_iterator<char>& in,
                      const std::istreambuf_iterator<char>& end) {
+  if (!in.__buffer)
+    return -1;
   if (end.__buffer)
     return in == end ? -1 : static_cast<unsigned char>(*in);
-  return in.__buffer ? in.__buffer->sgetc() : -1;
+  return in.__buffer->sgetc();
 }
 
 // Whether in has reached end.

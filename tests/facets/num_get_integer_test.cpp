@@ -593,3 +593,17 @@ TEST(a_missing_numpunct_or_ctype_aborts_with_the_bad_cast_message) {
   EXPECT_ABORT(read_with_locale<unsigned long>(locale_without<std::ctype<char> >()),
                "bad_cast: Facet not present\n\n");
 }
+
+TEST(an_input_iterator_without_a_buffer_is_at_its_end_whatever_the_end_iterator) {
+  std::istringstream source("-12 ");
+  const std::num_get<char>& facet = std::use_facet<std::num_get<char> >(source.getloc());
+  std::ios_base::iostate err = std::ios_base::goodbit;
+  long v = 5;
+  std::istreambuf_iterator<char> no_buffer;
+  std::istreambuf_iterator<char> end(source.rdbuf());
+  facet.get(no_buffer, end, source, err, v);
+  CHECK_EQ(err,
+           static_cast<std::ios_base::iostate>(std::ios_base::eofbit | std::ios_base::failbit));
+  CHECK_EQ(v, 0L);
+  CHECK_EQ(source.rdbuf()->sgetc(), '-');
+}

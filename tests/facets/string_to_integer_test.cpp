@@ -126,6 +126,11 @@ TEST(strtoul_overflow_with_a_minus_stores_1) {
 
 TEST(strtoul_a_character_after_a_digit_that_is_no_digit_is_out_of_range) {
   CHECK_STRTOUL("12z", 10, false, 0xFFFFFFFFul);
+  // wherever it stands, also first
+  CHECK_STRTOUL("x5", 10, false, 0xFFFFFFFFul);
+  CHECK_STRTOUL("-x", 10, false, 1ul);
+  CHECK_STRTOUL("005", 2, false, 0xFFFFFFFFul);
+  CHECK_STRTOL("x", 10, false, LONG_MAX);
   CHECK_STRTOUL("18", 8, false, 0xFFFFFFFFul);
   CHECK_STRTOUL("1g", 16, false, 0xFFFFFFFFul);
   CHECK_STRTOUL("1 ", 10, false, 0xFFFFFFFFul);

@@ -622,9 +622,23 @@ TEST(the_end_reaches_the_c_string_space_test_as_the_byte_0xff) {
   is >> buf;
   CHECK_STR(buf, "abc");
   CHECK_EQ(is.rdstate(), good);
-  // the sentry's give-back of 'a', then the end given back as 0xff, which pbackfail refuses
+  // the sentry's give-back of 'a', then the end given back as the end-of-file value
   CHECK_EQ(in.pbackfails, 2);
   CHECK_EQ(in.at, 3L);
+}
+
+TEST(the_end_taken_for_a_blank_reaches_pbackfail_as_end_of_file) {
+  static std::ctype_base::mask table[256];
+  table[0xff] = std::ctype_base::space;
+  std::locale ff_space(std::locale(), new std::ctype<char>(table));
+  std::istringstream is("ab");
+  is.imbue(ff_space);
+  char buf[8];
+  is >> buf;
+  CHECK_STR(buf, "ab");
+  CHECK_EQ(is.rdstate(), good);
+  // the string buffer's pbackfail(-1) steps back over the last character read
+  CHECK_EQ(is.get(), 'b');
 }
 
 TEST(the_signed_and_unsigned_c_string_forms_share_the_rules) {

@@ -756,6 +756,15 @@ TEST(ws_skips_even_without_skipws) {
   CHECK_EQ(is.get(), 'y');
 }
 
+TEST(ws_on_a_stream_that_is_not_good_adds_failbit_and_skips_nothing) {
+  std::istringstream is("   x");
+  is.setstate(std::ios_base::failbit);
+  is >> std::ws;
+  CHECK_EQ(is.rdstate(), fail);
+  is.clear();
+  CHECK_EQ(is.peek(), ' ');
+}
+
 // std::getline into a string
 
 TEST(string_getline_reads_lines_and_empty_lines) {
