@@ -1,5 +1,5 @@
 // std::ios_base: its constants, construction and destruction, imbue, xalloc, iword/pword, the
-// event callbacks, throwfailure and sync_with_stdio.
+// event callbacks, throwfailure, sync_with_stdio and the failure class.
 #include <__lorb/ios_base.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -94,6 +94,8 @@ void ios_base::throwfailure() {
   fprintf(stderr, "Failure in I/O\n");
   exit(1);
 }
+
+ios_base::failure::~failure() __LORB_NOEXCEPT {}
 
 namespace {
 bool in_step_with_stdio = true;

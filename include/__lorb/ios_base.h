@@ -103,6 +103,14 @@ public:
   void*& pword(int i);
   void register_callback(event_callback fn, int index);
 
+  // The class a stream failure would be thrown as. Nothing throws it here (a state bit caught by
+  // the exception mask ends the process instead); programs may still make and name one.
+  class __LORB_EXPORT failure : public exception {
+  public:
+    explicit failure(const __string_type& message) : exception(message) {}
+    virtual ~failure() __LORB_NOEXCEPT;
+  };
+
   // Counts the users of the standard streams: the first builds cin, cout, cerr and clog, the
   // last tears them down.
   class __LORB_EXPORT Init {

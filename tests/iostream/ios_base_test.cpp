@@ -459,3 +459,9 @@ ISOLATED_TEST(sync_with_stdio_remembers_the_setting_and_returns_the_previous_one
   CHECK_EQ(std::ios_base::sync_with_stdio(), false);
   CHECK_EQ(std::ios_base::sync_with_stdio(true), true);
 }
+
+TEST(a_failure_carries_its_message_and_is_an_exception) {
+  std::ios_base::failure failure(std::string("stream broke"));
+  const std::exception& base = failure;
+  CHECK_STR(base.what(), "stream broke");
+}
