@@ -1,4 +1,5 @@
 // The character, C-string and string extractors, std::getline for strings, and ws.
+#include <__lorb/filebuf_lines.h>
 #include <__lorb/give_back.h>
 #include <__lorb/istream.h>
 #include <string>
@@ -122,8 +123,20 @@ basic_istream<char>& getline(basic_istream<char>& is, string& s, char delim) {
   basic_istream<char>::sentry ok(is, true);
   unsigned long taken = 0;
   if (ok) {
-    s.erase();
     basic_streambuf<char>* sb = is.rdbuf();
+    // A plain file buffer hands its characters straight from the C library: the whole line is
+    // taken there in one call.
+    if (FILE* file = __vel::plain_input_file(sb)) {
+      bool delim_met;
+      taken = __vel::read_line(file, delim, s, delim_met);
+      if (!delim_met)
+        error = ios_base::eofbit;
+      if (taken == 0)
+        error |= ios_base::failbit;
+      is.setstate(error);
+      return is;
+    }
+    s.erase();
     const unsigned long limit = s.max_size();
     gathered_text line(s);
     for (;;) {
