@@ -1,5 +1,7 @@
 // std::basic_streambuf<char>: the default virtual operations and the bulk transfer loops.
+#include <__lorb/library_facets.h>
 #include <__lorb/streambuf.h>
+#include <__lorb/stringbuf.h>
 #include <string.h>
 
 namespace std {
@@ -71,6 +73,8 @@ streamsize basic_streambuf<char>::xsgetn(char* s, streamsize n) {
 
 // Fills the put area, then hands overflow one character at a time.
 streamsize basic_streambuf<char>::xsputn(const char* s, streamsize n) {
+  if (__vel::is_library_stringbuf(this))
+    return static_cast<basic_stringbuf<char>*>(this)->__append(s, n);
   streamsize count = 0;
   while (n > 0) {
     streamsize room = __pnext ? __pend - __pnext : 0;

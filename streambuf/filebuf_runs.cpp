@@ -24,6 +24,8 @@ FILE* direct_file(std::basic_streambuf<char>* buffer) {
 } // namespace
 
 bool put_run(std::basic_streambuf<char>* buffer, const char* s, size_t n) {
+  if (is_library_stringbuf(buffer)) // its bulk write is the run of overflows
+    return buffer->sputn(s, static_cast<std::streamsize>(n)) == static_cast<std::streamsize>(n);
   const char* end = s + n;
   if (FILE* file = direct_file(buffer)) {
     for (; s < end; ++s)

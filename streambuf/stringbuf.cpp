@@ -64,32 +64,68 @@ basic_stringbuf<char>::int_type basic_stringbuf<char>::overflow(int_type c) {
     return 0;
   if (!(__mode & ios_base::out))
     return end_of_file;
-  if (__pend == __end_of_allocation) {
-    long written = __pnext - __pbegin;
-    long get_offset = __gnext - __gbegin;
-    unsigned long room =
-        static_cast<unsigned long>(written) / growth_step * growth_step + growth_step;
-    // The new array takes the written characters and the old one is released; in place, when
-    // the C library can.
-    char* array = __vel::regrow_char_array(__array(), written, room);
-    if (!array)
-      __vel::out_of_memory();
-    setg(0, 0, 0);
-    __pbegin = array;
-    __pnext = array + written;
-    __pend = array + written + 1;
-    __end_of_allocation = array + room;
-    if (__mode & ios_base::in) {
-      __gbegin = array;
-      __gnext = array + get_offset;
-    }
-  } else {
-    ++__pend;
-  }
+  __open_one();
   *__pnext++ = stored_char(c);
   if (__mode & ios_base::in)
     __gend = __pnext;
   return c;
+}
+
+// Makes room for one more character at pptr, which is at epptr: a new array of the next multiple
+// of 64 above what has been written when the allocation is full, else one more place.
+void basic_stringbuf<char>::__open_one() {
+  if (__pend != __end_of_allocation) {
+    ++__pend;
+    return;
+  }
+  long written = __pnext - __pbegin;
+  long get_offset = __gnext - __gbegin;
+  unsigned long room =
+      static_cast<unsigned long>(written) / growth_step * growth_step + growth_step;
+  // The new array takes the written characters and the old one is released; in place, when the
+  // C library can.
+  char* array = __vel::regrow_char_array(__array(), written, room);
+  if (!array)
+    __vel::out_of_memory();
+  setg(0, 0, 0);
+  __pbegin = array;
+  __pnext = array + written;
+  __pend = array + written + 1;
+  __end_of_allocation = array + room;
+  if (__mode & ios_base::in) {
+    __gbegin = array;
+    __gnext = array + get_offset;
+  }
+}
+
+// What the default bulk write does, a copy into the put area and then overflow for each
+// character, with the overflows of a run done at once: the same arrays at the same sizes, the
+// same pointers after.
+streamsize basic_stringbuf<char>::__append(const char* s, streamsize n) {
+  streamsize count = 0;
+  while (count < n) {
+    if (__pnext && __pnext < __pend) {
+      streamsize k = n - count < __pend - __pnext ? n - count : __pend - __pnext;
+      traits_type::copy(__pnext, s + count, k);
+      __pnext += k;
+      count += k;
+      continue;
+    }
+    if (!(__mode & ios_base::out))
+      break;
+    __open_one();
+    *__pnext++ = s[count++];
+    streamsize k = __end_of_allocation - __pend;
+    if (k > n - count)
+      k = n - count;
+    traits_type::copy(__pnext, s + count, k);
+    __pnext += k;
+    __pend += k;
+    count += k;
+    if (__mode & ios_base::in)
+      __gend = __pnext;
+  }
+  return count;
 }
 
 // A pure input buffer has nothing beyond its get area; otherwise the get area is extended over

@@ -9,6 +9,7 @@
 // g++'s virtual tables of the two classes; an object's first word points two words in.
 extern "C" void* _ZTVSt13basic_filebufIcSt11char_traitsIcEE[];
 extern "C" void* _ZTVSt7codecvtIcciE[];
+extern "C" void* _ZTVSt15basic_stringbufIcSt11char_traitsIcESaIcEE[];
 
 namespace __vel {
 
@@ -24,6 +25,11 @@ inline bool is_library_codecvt(const std::codecvt<char, char, int>& convert) {
 // A basic_filebuf<char> itself, whose put area is always empty.
 inline bool is_library_filebuf(const std::basic_streambuf<char>* buffer) {
   return has_virtual_table(buffer, _ZTVSt13basic_filebufIcSt11char_traitsIcEE);
+}
+
+// A basic_stringbuf<char> itself, whose bulk writes are its own __append.
+inline bool is_library_stringbuf(const std::basic_streambuf<char>* buffer) {
+  return has_virtual_table(buffer, _ZTVSt15basic_stringbufIcSt11char_traitsIcESaIcEE);
 }
 
 } // namespace __vel

@@ -37,6 +37,10 @@ public:
   // Replaces the array with a copy of s, as the constructor does.
   void str(const basic_string<char>& s);
 
+  // Writes n characters as the default bulk write would, without a call for each; the base's
+  // xsputn hands a plain string buffer's writes here.
+  streamsize __append(const char* s, streamsize n);
+
   // The fields, in this order, after the base's.
   ios_base::openmode __mode;
   char* __end_of_allocation;
@@ -50,6 +54,7 @@ protected:
   virtual int_type overflow(int_type c = traits_type::eof());
 
 private:
+  void __open_one();
   char* __array() const { return __pbegin ? __pbegin : __gbegin; }
   void __adopt(const basic_string<char>& s);
 };
