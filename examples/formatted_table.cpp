@@ -1,8 +1,10 @@
 // Writes a small price table to a file with std::ofstream, lining the columns up with setw,
-// left/right/internal, setfill, fixed and setprecision, then prints the file with the C library.
+// left/right/internal, setfill, fixed and setprecision, then reads the file back and prints it.
 #include <cstdio>
 #include <fstream>
 #include <iomanip>
+#include <iostream>
+#include <string>
 
 struct stock_item {
   const char* name;
@@ -70,17 +72,17 @@ int main() {
     return 1;
   }
 
-  // There is no std::cout yet, so the file is read back and shown with the C library.
-  printf("%s holds:\n", path);
-  FILE* in = fopen(path, "r");
+  // The file is read back line by line and shown on the terminal.
+  std::cout << path << " holds:\n";
+  std::ifstream in(path);
   if (!in) {
-    fprintf(stderr, "cannot read %s back\n", path);
+    std::cerr << "cannot read " << path << " back\n";
     return 1;
   }
-  char line[128];
-  while (fgets(line, sizeof line, in))
-    fputs(line, stdout);
-  fclose(in);
+  std::string line;
+  while (std::getline(in, line))
+    std::cout << line << '\n';
+  in.close();
   remove(path);
   return 0;
 }

@@ -1,0 +1,79 @@
+// String streams: building 10 MB in a std::ostringstream from short strings, and parsing 1M ints
+// from a std::istringstream.
+#include "bench.h"
+#include "scale.h"
+#include <cstdio>
+#include <cstdlib>
+#include <sstream>
+#include <string>
+
+// Strings of 8 to 16 characters; every other one goes through the C-string inserter. The final
+// str() is timed too: a program builds a string to get it.
+static void build_short_strings() {
+  const long total_bytes = bench::scaled(10L << 20);
+  std::string words[9];
+  for (unsigned w = 0; w < 9; ++w)
+    for (unsigned j = 0; j < 8 + w; ++j)
+      words[w] += static_cast<char>('a' + (w * 5 + j) % 26);
+  long count = 0, written = 0;
+  double start = bench::now_ns();
+  std::ostringstream out;
+  for (; written < total_bytes; ++count) {
+    const std::string& word = words[count % 9];
+    if (count & 1)
+      out << word.c_str();
+    else
+      out << word;
+    written += static_cast<long>(word.size());
+  }
+  std::string built = out.str();
+  bench::report("ostringstream_short_strings_10MB", start, count);
+  bench::keep(built.data());
+  if (static_cast<long>(built.size()) != written) {
+    fprintf(stderr, "ostringstream_short_strings_10MB: built %lu characters, expected %ld\n",
+            static_cast<unsigned long>(built.size()), written);
+    exit(1);
+  }
+}
+
+// Both signs and every length from one digit to ten. The text is made with the C library in one
+// array and handed to a string once, so that making it costs the same with either library.
+static void parse_ints() {
+  const long count = bench::scaled(1000000);
+  const long longest = 12; // "-2147483648" and a separator
+  char* array = static_cast<char*>(malloc(count * longest + 1));
+  if (!array) {
+    fprintf(stderr, "istringstream_int_1M: no memory for the text\n");
+    exit(1);
+  }
+  long length = 0;
+  long long expected_sum = 0;
+  for (long i = 0; i < count; ++i) {
+    int value = static_cast<int>(static_cast<unsigned long>(i) * 2654435761u >> (i % 32));
+    expected_sum += value;
+    length += snprintf(array + length, longest + 1, "%d%c", value, i % 10 == 9 ? '\n' : ' ');
+  }
+  std::string text(array, length);
+  free(array);
+  long read = 0;
+  long long sum = 0;
+  int n;
+  double start = bench::now_ns(); // making the stream copies the text, and is timed
+  std::istringstream in(text);
+  while (in >> n) {
+    sum += n;
+    ++read;
+  }
+  bench::report("istringstream_int_1M", start, count);
+  if (read != count || sum != expected_sum || !in.eof()) {
+    fprintf(stderr, "istringstream_int_1M: read %ld ints summing to %lld, expected %ld of %lld\n",
+            read, sum, count, expected_sum);
+    exit(1);
+  }
+}
+
+int main() {
+  build_short_strings();
+  parse_ints();
+  return 0;
+}
