@@ -4,6 +4,7 @@
 #define __LORB_NUM_GET_MEMBERS_H
 
 #include <__lorb/input_chars.h>
+#include <__lorb/library_facets.h>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -38,14 +39,13 @@ inline int digit_value(int c, int base) {
 
 // The integer scanner for any width of accumulator: _Unsigned is unsigned long for the 32-bit
 // targets and unsigned long long for the 64-bit ones. Decimal numbers longer than
-// checked_digits are accumulated a second time from their digits to find an overflow.
+// checked_digits are accumulated a second time from their digits to find an overflow. The
+// separator and grouping are the stream's numpunct's.
 template <class _InputIter, class _Unsigned>
 _Unsigned scan_integer(_InputIter& in, _InputIter& end, std::ios_base& str, int& base,
-                       int is_signed, _Unsigned max, unsigned checked_digits) {
-  const std::numpunct<char>& punct = std::use_facet<std::numpunct<char> >(str.__locale);
+                       int is_signed, _Unsigned max, unsigned checked_digits, int separator,
+                       const std::string& grouping) {
   const std::ctype<char>& ct = std::use_facet<std::ctype<char> >(str.__locale);
-  const int separator = static_cast<unsigned char>(punct.thousands_sep());
-  const std::string grouping = punct.grouping();
   const bool grouped = grouping.size() != 0;
   const unsigned bits = sizeof(_Unsigned) * 8;
 
@@ -167,6 +167,20 @@ _Unsigned scan_integer(_InputIter& in, _InputIter& end, std::ios_base& str, int&
                                          positions, grouping, false))
     base = -1;
   return result;
+}
+
+// The library's own numpunct<char> returns its fields unchanged: they are read in place, without
+// a copy of the grouping for every number.
+template <class _InputIter, class _Unsigned>
+_Unsigned scan_integer(_InputIter& in, _InputIter& end, std::ios_base& str, int& base,
+                       int is_signed, _Unsigned max, unsigned checked_digits) {
+  const std::numpunct<char>& punct = std::use_facet<std::numpunct<char> >(str.__locale);
+  if (is_library_numpunct(punct))
+    return scan_integer(in, end, str, base, is_signed, max, checked_digits,
+                        static_cast<unsigned char>(punct.__thousands_sep), punct.__grouping);
+  const std::string grouping = punct.grouping();
+  return scan_integer(in, end, str, base, is_signed, max, checked_digits,
+                      static_cast<unsigned char>(punct.thousands_sep()), grouping);
 }
 
 // Appends c to the scanner's text unless it is full.

@@ -43,7 +43,8 @@ protected:
   virtual string_type do_truename() const;
   virtual string_type do_falsename() const;
 
-private:
+public:
+  // The fields, in this order; the parsers read them directly from the library's own facet.
   char __decimal_point;
   char __thousands_sep;
   string_type __grouping;
