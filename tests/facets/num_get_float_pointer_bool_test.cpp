@@ -4,6 +4,7 @@
 // digits or as names (a user numpunct, the end of input right after a name, ties, prefixes).
 // Every reading goes through both instances: over char* and over a string buffer.
 #include "lorb_test.h"
+#include "num_get_reading.h"
 #include <errno.h>
 #include <locale.h>
 #include <locale>
@@ -13,16 +14,6 @@
 #include <string>
 
 namespace {
-
-typedef std::istreambuf_iterator<char> buffer_iterator;
-typedef std::num_get<char, buffer_iterator> buffer_num_get;
-typedef std::num_get<char, char*> array_num_get;
-typedef std::ios_base::iostate iostate;
-
-const iostate good = std::ios_base::goodbit;
-const iostate eof = std::ios_base::eofbit;
-const iostate fail = std::ios_base::failbit;
-const iostate fail_eof = std::ios_base::failbit | std::ios_base::eofbit;
 
 const std::ios_base::fmtflags skipws = std::ios_base::skipws | std::ios_base::dec;
 const std::ios_base::fmtflags noskipws = std::ios_base::dec;
@@ -64,39 +55,6 @@ struct narrowing_ctype : std::ctype<char> {
 protected:
   char do_narrow(char c, char dfault) const { return c == 'q' ? 'x' : c == 'g' ? 'f' : c; }
 };
-
-struct array_reader : array_num_get {
-  array_reader() : array_num_get(1) {}
-  ~array_reader() {}
-};
-
-template <class T> struct reading {
-  T value;
-  iostate err;
-  size_t taken;
-};
-
-template <class T> reading<T> read_array(const std::string& text, std::ios_base& str, T before) {
-  char* first = new char[text.size() + 1];
-  memcpy(first, text.data(), text.size());
-  array_reader facet;
-  reading<T> r = {before, good, 0};
-  char* stop = facet.get(first, first + text.size(), str, r.err, r.value);
-  r.taken = static_cast<size_t>(stop - first);
-  delete[] first;
-  return r;
-}
-
-template <class T> reading<T> read_buffer(std::istringstream& s, size_t length, T before) {
-  const buffer_num_get& facet = std::use_facet<buffer_num_get>(s.getloc());
-  reading<T> r = {before, good, 0};
-  facet.get(buffer_iterator(s.rdbuf()), buffer_iterator(), s, r.err, r.value);
-  size_t left = 0;
-  while (s.rdbuf()->sbumpc() != EOF)
-    ++left;
-  r.taken = length - left;
-  return r;
-}
 
 void describe(char* out, size_t n, long double v) { snprintf(out, n, "%.21Lg", v); }
 void describe(char* out, size_t n, double v) { snprintf(out, n, "%.17g", v); }

@@ -3,6 +3,7 @@
 // bits), __trelk_check_grouping on its own, and the bounds of the scanners' storage: more digits
 // or separators than they keep end the scan as an overflow.
 #include "lorb_test.h"
+#include "num_get_reading.h"
 #include <limits.h>
 #include <locale>
 #include <sstream>
@@ -11,16 +12,6 @@
 #include <string>
 
 namespace {
-
-typedef std::istreambuf_iterator<char> buffer_iterator;
-typedef std::num_get<char, buffer_iterator> buffer_num_get;
-typedef std::num_get<char, char*> array_num_get;
-typedef std::ios_base::iostate iostate;
-
-const iostate good = std::ios_base::goodbit;
-const iostate eof = std::ios_base::eofbit;
-const iostate fail = std::ios_base::failbit;
-const iostate fail_eof = std::ios_base::failbit | std::ios_base::eofbit;
 
 const std::ios_base::fmtflags dec = std::ios_base::dec | std::ios_base::skipws;
 const std::ios_base::fmtflags hex = std::ios_base::hex | std::ios_base::skipws;
@@ -44,39 +35,6 @@ std::locale grouped(const std::string& grouping, char separator = ',') {
 
 // Grouping strings that hold a zero byte.
 std::string sizes(const char* bytes, size_t n) { return std::string(bytes, n); }
-
-struct array_reader : array_num_get {
-  array_reader() : array_num_get(1) {}
-  ~array_reader() {}
-};
-
-template <class T> struct reading {
-  T value;
-  iostate err;
-  size_t taken;
-};
-
-template <class T> reading<T> read_array(const std::string& text, std::ios_base& str, T before) {
-  char* first = new char[text.size() + 1];
-  memcpy(first, text.data(), text.size());
-  array_reader facet;
-  reading<T> r = {before, good, 0};
-  char* stop = facet.get(first, first + text.size(), str, r.err, r.value);
-  r.taken = static_cast<size_t>(stop - first);
-  delete[] first;
-  return r;
-}
-
-template <class T> reading<T> read_buffer(std::istringstream& s, size_t length, T before) {
-  const buffer_num_get& facet = std::use_facet<buffer_num_get>(s.getloc());
-  reading<T> r = {before, good, 0};
-  facet.get(buffer_iterator(s.rdbuf()), buffer_iterator(), s, r.err, r.value);
-  size_t left = 0;
-  while (s.rdbuf()->sbumpc() != EOF)
-    ++left;
-  r.taken = length - left;
-  return r;
-}
 
 // Both instances must agree; the char* one is returned for the caller's checks.
 template <class T>

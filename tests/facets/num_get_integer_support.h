@@ -5,6 +5,7 @@
 #define FACETS_NUM_GET_INTEGER_SUPPORT_H
 
 #include "lorb_test.h"
+#include "num_get_reading.h"
 #include <limits.h>
 #include <locale>
 #include <sstream>
@@ -14,62 +15,11 @@
 
 namespace {
 
-typedef std::istreambuf_iterator<char> buffer_iterator;
-typedef std::num_get<char, buffer_iterator> buffer_num_get;
-typedef std::num_get<char, char*> array_num_get;
-typedef std::ios_base::iostate iostate;
-
-const iostate good = std::ios_base::goodbit;
-const iostate eof = std::ios_base::eofbit;
-const iostate fail = std::ios_base::failbit;
-const iostate fail_eof = std::ios_base::failbit | std::ios_base::eofbit;
-
 const std::ios_base::fmtflags skipws = std::ios_base::skipws;
 const std::ios_base::fmtflags dec = std::ios_base::dec | skipws;
 const std::ios_base::fmtflags hex = std::ios_base::hex | skipws;
 const std::ios_base::fmtflags oct = std::ios_base::oct | skipws;
 const std::ios_base::fmtflags no_base = skipws;
-
-// The char* instance, owned here (refs 1).
-struct array_reader : array_num_get {
-  array_reader() : array_num_get(1) {}
-  ~array_reader() {}
-};
-
-// What one get did: the value left in v, the bits set and the characters taken.
-template <class T> struct reading {
-  T value;
-  iostate err;
-  size_t taken;
-  bool end_agrees; // the returned iterator is at end exactly when nothing is left
-};
-
-template <class T> reading<T> read_array(const std::string& text, std::ios_base& str, T before) {
-  char* first = new char[text.size() + 1];
-  memcpy(first, text.data(), text.size());
-  first[text.size()] = '\x7f';
-  array_reader facet;
-  reading<T> r = {before, good, 0, true};
-  char* stop = facet.get(first, first + text.size(), str, r.err, r.value);
-  r.taken = static_cast<size_t>(stop - first);
-  delete[] first;
-  return r;
-}
-
-// The stream's own instance, from its locale, over its string buffer; what is left in the
-// buffer afterwards tells how much was taken.
-template <class T> reading<T> read_buffer(std::istringstream& s, size_t length, T before) {
-  const buffer_num_get& facet = std::use_facet<buffer_num_get>(s.getloc());
-  reading<T> r = {before, good, 0, true};
-  buffer_iterator stop =
-      facet.get(buffer_iterator(s.rdbuf()), buffer_iterator(), s, r.err, r.value);
-  r.end_agrees = (stop == buffer_iterator()) == (s.rdbuf()->sgetc() == EOF);
-  size_t left = 0;
-  while (s.rdbuf()->sbumpc() != EOF)
-    ++left;
-  r.taken = length - left;
-  return r;
-}
 
 template <class T>
 void check_reading(const reading<T>& r, T expected, iostate err, size_t taken, const char* file,
