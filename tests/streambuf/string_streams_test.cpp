@@ -1,54 +1,17 @@
 // istringstream, ostringstream and stringstream: their constructors and modes, str() and str(s),
 // reading back what was written, round trips of numbers and text, the stream seeks, and the
 // release of the array when a stream goes.
-#include "lorb_test.h"
+#include "stringbuf_test_support.h"
 #include <limits.h>
-#include <sstream>
-#include <stdlib.h>
-#include <string.h>
-
-typedef std::ios_base io;
-
-// Every new[] and delete[] of the program is counted, so a test sees the arrays a stream's
-// buffer takes and gives back.
-namespace {
-int array_news = 0, array_deletes = 0;
-} // namespace
-
-void* operator new[](std::size_t size) {
-  ++array_news;
-  return malloc(size ? size : 1);
-}
-
-void operator delete[](void* p) noexcept {
-  if (!p)
-    return;
-  ++array_deletes;
-  free(p);
-}
+#include <string>
 
 namespace {
-
-const std::streamoff invalid = -1;
-
-std::streamoff offset_of(const std::streampos& position) { return position; }
 
 bool same(const std::string& actual, const std::string& expected) {
   return CHECK_BYTES(actual.data(), actual.size(), expected.data(), expected.size());
 }
 
 io::openmode mode_of(const std::basic_stringbuf<char>* buffer) { return buffer->__mode; }
-
-// A small deterministic generator.
-struct generator {
-  unsigned long state;
-  explicit generator(unsigned long seed) : state(seed) {}
-  unsigned long next() {
-    state = state * 1103515245ul + 12345ul;
-    return (state >> 16) & 0x7fff;
-  }
-  unsigned long next_word() { return next() << 17 ^ next() << 2 ^ next(); }
-};
 
 } // namespace
 

@@ -1,5 +1,5 @@
-// What the string-buffer tests share: the logging new[] and delete[], a buffer that opens its
-// protected pointers and operations, a generator and the growth rule worked out.
+// What the string-buffer and string-stream tests share: the logging new[] and delete[], a buffer
+// that opens its protected pointers and operations, a generator and the growth rule worked out.
 // Include it in exactly one file of a test program.
 #ifndef STREAMBUF_STRINGBUF_TEST_SUPPORT_H
 #define STREAMBUF_STRINGBUF_TEST_SUPPORT_H
@@ -83,7 +83,7 @@ bool state_is_zero(const std::streampos& position) {
   return memcmp(&state, &zero, sizeof zero) == 0;
 }
 
-// A small deterministic generator of characters, every byte value included.
+// A small deterministic generator of characters, every byte value included, and of words.
 struct generator {
   unsigned long state;
   explicit generator(unsigned long seed) : state(seed) {}
@@ -92,6 +92,7 @@ struct generator {
     return (state >> 16) & 0x7fff;
   }
   char next_char() { return static_cast<char>(next() & 0xff); }
+  unsigned long next_word() { return next() << 17 ^ next() << 2 ^ next(); }
 };
 
 std::string generated_text(unsigned long seed, long length) {
