@@ -7,56 +7,8 @@
 #include <sstream>
 #include <string>
 
+#include "input_integer_types.h"
 #include "input_support.h"
-
-enum integer_type { as_short, as_ushort, as_int, as_uint, as_long, as_ulong };
-
-static const char* const type_names[] = {"short", "ushort", "int", "uint", "long", "ulong"};
-
-template <class T> static void read_as(std::istream& is, const char* format) {
-  T value = T();
-  is >> value;
-  printf(format, value);
-}
-
-static void read_case(integer_type type, std::ios_base::fmtflags base, bool skip,
-                      const char* text) {
-  std::istringstream is(text);
-  is.setf(base, std::ios_base::basefield);
-  if (!skip)
-    is.unsetf(std::ios_base::skipws);
-  printf("%s %s%s \"", type_names[type],
-         base == std::ios_base::dec   ? "dec"
-         : base == std::ios_base::hex ? "hex"
-         : base == std::ios_base::oct ? "oct"
-                                      : "none",
-         skip ? "" : " noskipws");
-  print_escaped(text, strlen(text));
-  printf("\" -> ");
-  switch (type) {
-  case as_short:
-    read_as<short>(is, "%hd");
-    break;
-  case as_ushort:
-    read_as<unsigned short>(is, "%hu");
-    break;
-  case as_int:
-    read_as<int>(is, "%d");
-    break;
-  case as_uint:
-    read_as<unsigned int>(is, "%u");
-    break;
-  case as_long:
-    read_as<long>(is, "%ld");
-    break;
-  case as_ulong:
-    read_as<unsigned long>(is, "%lu");
-    break;
-  }
-  print_state(is);
-  print_rest(is);
-  printf("\n");
-}
 
 // Largest magnitude of each type, and whether it is signed.
 static const unsigned long maxima[] = {32767,       65535,      2147483647,
@@ -99,7 +51,7 @@ static void generated_case(generator& g, integer_type type, std::ios_base::fmtfl
     sprintf(number, "%s0%lo", sign, magnitude);
   char text[96];
   sprintf(text, "%s%s%s", blanks[g.below(5)], number, tails[g.below(9)]);
-  read_case(type, base, true, text);
+  read_case(type, base, true, text, 0);
 }
 
 int main() {
@@ -115,72 +67,72 @@ int main() {
   // value is stored truncated).
   const std::ios_base::fmtflags dec = std::ios_base::dec, hex = std::ios_base::hex;
   const std::ios_base::fmtflags oct = std::ios_base::oct, none = std::ios_base::fmtflags();
-  read_case(as_short, dec, true, "32767");
-  read_case(as_short, dec, true, "-32768 ");
-  read_case(as_ushort, dec, true, "65535");
-  read_case(as_ushort, dec, true, "65536");
-  read_case(as_ushort, dec, true, "99999x");
-  read_case(as_ushort, dec, true, "-32768");
-  read_case(as_ushort, hex, true, "FFFF");
-  read_case(as_ushort, hex, true, "10000");
-  read_case(as_ushort, oct, true, "177777");
-  read_case(as_ushort, oct, true, "200000");
-  read_case(as_int, dec, true, "2147483647");
-  read_case(as_int, dec, true, "-2147483648");
-  read_case(as_int, dec, true, "2147483648");
-  read_case(as_int, dec, true, "-2147483649");
-  read_case(as_long, dec, true, "2147483647");
-  read_case(as_long, dec, true, "-2147483648");
-  read_case(as_long, dec, true, "2147483648 ");
-  read_case(as_long, dec, true, "-2147483649");
-  read_case(as_long, dec, true, "4294967296");
-  read_case(as_long, hex, true, "7fffffff");
-  read_case(as_long, hex, true, "80000000");
-  read_case(as_long, hex, true, "-80000000");
-  read_case(as_long, hex, true, "-80000001");
-  read_case(as_long, oct, true, "17777777777");
-  read_case(as_long, oct, true, "-20000000000");
-  read_case(as_long, oct, true, "20000000000");
-  read_case(as_uint, dec, true, "4294967295");
-  read_case(as_uint, dec, true, "4294967296");
-  read_case(as_uint, dec, true, "-2147483648");
-  read_case(as_ulong, dec, true, "4294967295");
-  read_case(as_ulong, dec, true, "4294967296");
-  read_case(as_ulong, dec, true, "4294967300");
-  read_case(as_ulong, dec, true, "-1");
-  read_case(as_ulong, dec, true, "-2147483647");
-  read_case(as_ulong, hex, true, "ffffffff");
-  read_case(as_ulong, hex, true, "0xFFFFFFFF");
-  read_case(as_ulong, oct, true, "37777777777");
-  read_case(as_ulong, dec, true, "00000000000000000000000000042");
+  read_case(as_short, dec, true, "32767", 0);
+  read_case(as_short, dec, true, "-32768 ", 0);
+  read_case(as_ushort, dec, true, "65535", 0);
+  read_case(as_ushort, dec, true, "65536", 0);
+  read_case(as_ushort, dec, true, "99999x", 0);
+  read_case(as_ushort, dec, true, "-32768", 0);
+  read_case(as_ushort, hex, true, "FFFF", 0);
+  read_case(as_ushort, hex, true, "10000", 0);
+  read_case(as_ushort, oct, true, "177777", 0);
+  read_case(as_ushort, oct, true, "200000", 0);
+  read_case(as_int, dec, true, "2147483647", 0);
+  read_case(as_int, dec, true, "-2147483648", 0);
+  read_case(as_int, dec, true, "2147483648", 0);
+  read_case(as_int, dec, true, "-2147483649", 0);
+  read_case(as_long, dec, true, "2147483647", 0);
+  read_case(as_long, dec, true, "-2147483648", 0);
+  read_case(as_long, dec, true, "2147483648 ", 0);
+  read_case(as_long, dec, true, "-2147483649", 0);
+  read_case(as_long, dec, true, "4294967296", 0);
+  read_case(as_long, hex, true, "7fffffff", 0);
+  read_case(as_long, hex, true, "80000000", 0);
+  read_case(as_long, hex, true, "-80000000", 0);
+  read_case(as_long, hex, true, "-80000001", 0);
+  read_case(as_long, oct, true, "17777777777", 0);
+  read_case(as_long, oct, true, "-20000000000", 0);
+  read_case(as_long, oct, true, "20000000000", 0);
+  read_case(as_uint, dec, true, "4294967295", 0);
+  read_case(as_uint, dec, true, "4294967296", 0);
+  read_case(as_uint, dec, true, "-2147483648", 0);
+  read_case(as_ulong, dec, true, "4294967295", 0);
+  read_case(as_ulong, dec, true, "4294967296", 0);
+  read_case(as_ulong, dec, true, "4294967300", 0);
+  read_case(as_ulong, dec, true, "-1", 0);
+  read_case(as_ulong, dec, true, "-2147483647", 0);
+  read_case(as_ulong, hex, true, "ffffffff", 0);
+  read_case(as_ulong, hex, true, "0xFFFFFFFF", 0);
+  read_case(as_ulong, oct, true, "37777777777", 0);
+  read_case(as_ulong, dec, true, "00000000000000000000000000042", 0);
 
   // Prefixes, signs and text that is not a number.
-  read_case(as_long, none, true, "0");
-  read_case(as_long, none, true, "0x1F");
-  read_case(as_long, none, true, "0x");
-  read_case(as_long, none, true, "0xg");
-  read_case(as_long, none, true, "017");
-  read_case(as_long, none, true, "08");
-  read_case(as_long, none, true, "-0x10");
-  read_case(as_long, hex, true, "0x");
-  read_case(as_long, hex, true, "0Xz");
-  read_case(as_long, dec, true, "0x1F");
-  read_case(as_long, oct, true, "0x1F");
-  read_case(as_long, oct, true, "19");
-  read_case(as_long, oct, true, "8");
-  read_case(as_long, dec, true, "-0");
-  read_case(as_long, dec, true, "+0");
-  read_case(as_long, dec, true, "-");
-  read_case(as_long, dec, true, "+");
-  read_case(as_long, dec, true, "-x");
-  read_case(as_long, dec, true, "+-1");
-  read_case(as_long, dec, true, "--1");
-  read_case(as_long, dec, true, "abc");
-  read_case(as_long, dec, true, " \t.5");
-  read_case(as_uint, dec, true, "1e5");
-  read_case(as_int, dec, false, "42 ");
-  read_case(as_int, dec, false, " 42");
-  read_case(as_ulong, hex, false, "\tff");
+  read_case(as_long, none, true, "0", 0);
+  read_case(as_long, none, true, "0x1F", 0);
+  read_case(as_long, none, true, "0x", 0);
+  read_case(as_long, none, true, "0xg", 0);
+  read_case(as_long, none, true, "017", 0);
+  read_case(as_long, none, true, "08", 0);
+  read_case(as_long, none, true, "-0x10", 0);
+  read_case(as_long, hex, true, "0x", 0);
+  read_case(as_long, hex, true, "0Xz", 0);
+  read_case(as_long, dec, true, "0x1F", 0);
+  read_case(as_long, oct, true, "0x1F", 0);
+  read_case(as_long, oct, true, "19", 0);
+  read_case(as_long, oct, true, "8", 0);
+  read_case(as_long, dec, true, "-0", 0);
+  read_case(as_long, dec, true, "+0", 0);
+  read_case(as_long, dec, true, "-", 0);
+  read_case(as_long, dec, true, "+", 0);
+  read_case(as_long, dec, true, "-x", 0);
+  read_case(as_long, dec, true, "+-1", 0);
+  read_case(as_long, dec, true, "--1", 0);
+  read_case(as_long, dec, true, "abc", 0);
+  read_case(as_long, dec, true, " \t.5", 0);
+  read_case(as_uint, dec, true, "1e5", 0);
+  read_case(as_int, dec, false, "42 ", 0);
+  read_case(as_int, dec, false, " 42", 0);
+  read_case(as_ulong, hex, false, "\tff", 0);
 
   // A stream that already failed takes nothing more and keeps the target.
   std::istringstream chained("12 abc 34");

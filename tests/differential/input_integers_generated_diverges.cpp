@@ -7,41 +7,13 @@
 #include <cstring>
 #include <sstream>
 
+#include "input_integer_types.h"
 #include "input_support.h"
-
-enum integer_type { as_short, as_ushort, as_int, as_uint, as_long, as_ulong };
-
-static const char* const type_names[] = {"short", "ushort", "int", "uint", "long", "ulong"};
-
-template <class T> static void read_as(std::istream& is, const char* format) {
-  T value = T(7);
-  is >> value;
-  printf(format, value);
-}
 
 static void read_case(integer_type type, const char* text) {
   std::istringstream is(text);
   printf("%s \"%s\" -> ", type_names[type], text);
-  switch (type) {
-  case as_short:
-    read_as<short>(is, "%hd");
-    break;
-  case as_ushort:
-    read_as<unsigned short>(is, "%hu");
-    break;
-  case as_int:
-    read_as<int>(is, "%d");
-    break;
-  case as_uint:
-    read_as<unsigned int>(is, "%u");
-    break;
-  case as_long:
-    read_as<long>(is, "%ld");
-    break;
-  case as_ulong:
-    read_as<unsigned long>(is, "%lu");
-    break;
-  }
+  read_integer(type, is, 7);
   print_state(is);
   printf("\n");
 }
