@@ -11,12 +11,10 @@ namespace std {
 
 template <class _T> inline const _T& min(const _T& a, const _T& b) { return b < a ? b : a; }
 template <class _T> inline const _T& max(const _T& a, const _T& b) { return a < b ? b : a; }
-template <class _T, class _Compare>
-inline const _T& min(const _T& a, const _T& b, _Compare comp) {
+template <class _T, class _Compare> inline const _T& min(const _T& a, const _T& b, _Compare comp) {
   return comp(b, a) ? b : a;
 }
-template <class _T, class _Compare>
-inline const _T& max(const _T& a, const _T& b, _Compare comp) {
+template <class _T, class _Compare> inline const _T& max(const _T& a, const _T& b, _Compare comp) {
   return comp(a, b) ? b : a;
 }
 
@@ -41,7 +39,8 @@ template <class _In, class _Out> inline _Out copy_elements(_In first, _In last, 
     *out = *first;
   return out;
 }
-template <class _T> inline _T* copy_pointers(const _T* first, const _T* last, _T* out, truth<true>) {
+template <class _T>
+inline _T* copy_pointers(const _T* first, const _T* last, _T* out, truth<true>) {
   size_t n = last - first;
   if (n)
     memmove(out, first, n * sizeof(_T));
@@ -52,7 +51,8 @@ inline _T* copy_pointers(const _T* first, const _T* last, _T* out, truth<false>)
   return copy_elements(first, last, out);
 }
 
-template <class _Bi1, class _Bi2> inline _Bi2 copy_elements_backward(_Bi1 first, _Bi1 last, _Bi2 out) {
+template <class _Bi1, class _Bi2>
+inline _Bi2 copy_elements_backward(_Bi1 first, _Bi1 last, _Bi2 out) {
   while (first != last)
     *--out = *--last;
   return out;
@@ -95,11 +95,13 @@ template <class _T> inline _T* copy_backward(_T* first, _T* last, _T* out) {
   return std::copy_backward(static_cast<const _T*>(first), static_cast<const _T*>(last), out);
 }
 
-template <class _Forward, class _T> inline void fill(_Forward first, _Forward last, const _T& value) {
+template <class _Forward, class _T>
+inline void fill(_Forward first, _Forward last, const _T& value) {
   for (; first != last; ++first)
     *first = value;
 }
-template <class _Out, class _Size, class _T> inline void fill_n(_Out out, _Size n, const _T& value) {
+template <class _Out, class _Size, class _T>
+inline void fill_n(_Out out, _Size n, const _T& value) {
   for (; n > 0; --n, ++out)
     *out = value;
 }

@@ -27,15 +27,14 @@ __LORB_BITWISE(int)
 __LORB_BITWISE(unsigned int)
 __LORB_BITWISE(long)
 __LORB_BITWISE(unsigned long)
-__extension__ __LORB_BITWISE(long long)
-__extension__ __LORB_BITWISE(unsigned long long)
-__LORB_BITWISE(float)
-__LORB_BITWISE(double)
-__LORB_BITWISE(long double)
+__extension__ __LORB_BITWISE(long long) __extension__ __LORB_BITWISE(unsigned long long)
+    __LORB_BITWISE(float) __LORB_BITWISE(double) __LORB_BITWISE(long double)
 #undef __LORB_BITWISE
 
-// Chooses between two implementations at compile time.
-template <bool> struct truth {};
+    // Chooses between two implementations at compile time.
+    template <bool>
+    struct truth {
+};
 
 } // namespace __vel
 

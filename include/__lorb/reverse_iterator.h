@@ -7,12 +7,11 @@
 namespace std {
 
 template <class _Iter>
-class reverse_iterator
-    : public iterator<typename iterator_traits<_Iter>::iterator_category,
-                      typename iterator_traits<_Iter>::value_type,
-                      typename iterator_traits<_Iter>::difference_type,
-                      typename iterator_traits<_Iter>::pointer,
-                      typename iterator_traits<_Iter>::reference> {
+class reverse_iterator : public iterator<typename iterator_traits<_Iter>::iterator_category,
+                                         typename iterator_traits<_Iter>::value_type,
+                                         typename iterator_traits<_Iter>::difference_type,
+                                         typename iterator_traits<_Iter>::pointer,
+                                         typename iterator_traits<_Iter>::reference> {
 protected:
   _Iter current;
 
