@@ -27,14 +27,21 @@ __LORB_BITWISE(int)
 __LORB_BITWISE(unsigned int)
 __LORB_BITWISE(long)
 __LORB_BITWISE(unsigned long)
-__extension__ __LORB_BITWISE(long long) __extension__ __LORB_BITWISE(unsigned long long)
-    __LORB_BITWISE(float) __LORB_BITWISE(double) __LORB_BITWISE(long double)
+// clang-format off
+// C++98 has no long long; the compiler's extension does (__extension__ does not quiet it here).
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wlong-long"
+__LORB_BITWISE(long long)
+__LORB_BITWISE(unsigned long long)
+#pragma GCC diagnostic pop
+__LORB_BITWISE(float)
+__LORB_BITWISE(double)
+__LORB_BITWISE(long double)
 #undef __LORB_BITWISE
 
-    // Chooses between two implementations at compile time.
-    template <bool>
-    struct truth {
-};
+// Chooses between two implementations at compile time.
+template <bool> struct truth {};
+// clang-format on
 
 } // namespace __vel
 
