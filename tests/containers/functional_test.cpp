@@ -85,8 +85,8 @@ TEST(ptr_fun_wraps_plain_functions_for_the_adaptors) {
   std::pointer_to_binary_function<int, int, int> diff = std::ptr_fun(difference);
   CHECK_EQ(diff(9, 4), 5);
   CHECK_EQ(std::bind2nd(std::ptr_fun(difference), 1)(5), 4);
-  CHECK((same_type<std::pointer_to_binary_function<int, int, int>::second_argument_type,
-                  int>::value));
+  CHECK((
+      same_type<std::pointer_to_binary_function<int, int, int>::second_argument_type, int>::value));
 }
 
 TEST(mem_fun_calls_members_through_pointers) {
@@ -105,7 +105,7 @@ TEST(mem_fun_calls_members_through_pointers) {
   std::for_each(items, items + 2, std::bind2nd(std::mem_fun(&counter::add), 10));
   CHECK(a.value == 11 && b.value == 12);
   CHECK((same_type<std::const_mem_fun1_t<int, counter, int>::first_argument_type,
-                  const counter*>::value));
+                   const counter*>::value));
   CHECK((same_type<std::mem_fun1_t<int, counter, int>::first_argument_type, counter*>::value));
 }
 

@@ -30,9 +30,9 @@ TEST(inner_product_sums_the_products_pairwise) {
   int b[] = {4, 5, 6};
   CHECK_EQ(std::inner_product(a, a + 3, b, 0), 32);
   CHECK_EQ(std::inner_product(a, a, b, 7), 7);
-  CHECK_EQ(std::inner_product(at::in(a), at::in(a + 3), b, 1, std::multiplies<int>(),
-                              std::plus<int>()),
-           5 * 7 * 9);
+  CHECK_EQ(
+      std::inner_product(at::in(a), at::in(a + 3), b, 1, std::multiplies<int>(), std::plus<int>()),
+      5 * 7 * 9);
   CHECK_EQ(std::inner_product(a, a + 2, b, 0, joined, std::minus<int>()), -3 * 10 - 3);
 }
 
@@ -46,8 +46,7 @@ TEST(partial_sum_writes_running_totals_even_in_place) {
   CHECK(std::equal(a, a + 4, totals));
   CHECK(std::partial_sum(a, a, out) == out);
   int b[] = {1, 2, 3};
-  CHECK(std::partial_sum(at::in(b), at::in(b + 3), at::write_only<int>(out), joined).at ==
-        out + 3);
+  CHECK(std::partial_sum(at::in(b), at::in(b + 3), at::write_only<int>(out), joined).at == out + 3);
   int joins[] = {1, 12, 123};
   CHECK(std::equal(out, out + 3, joins));
 }
