@@ -96,7 +96,7 @@ void shift_left(unsigned* dst, const unsigned* src, unsigned shift, unsigned n, 
 }
 
 // Words are read ahead of the words written, so dst may be src. With shift % 32 != 0 a shift of
-// 32 * n or more reads one word past src (callers clear instead).
+// 32 * n or more reads past the end of src (callers clear instead).
 void shift_right(unsigned* dst, const unsigned* src, unsigned shift, unsigned n) {
   if (n == 0)
     return;

@@ -93,7 +93,7 @@ public:
   template <class _InputIter> void insert(_InputIter first, _InputIter last) {
     tree.insert_unique(first, last);
   }
-  void erase(iterator position) { tree.erase(position); }
+  void erase(iterator position) { tree.erase(const_iterator(position)); }
   size_type erase(const key_type& key) { return tree.erase(key); }
   void erase(iterator first, iterator last) { tree.erase(first, last); }
   void swap(map& other) { tree.swap(other.tree); }

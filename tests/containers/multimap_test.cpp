@@ -329,3 +329,26 @@ TEST(generated_operations_match_a_model_and_keep_the_tree_valid) {
 }
 
 } // namespace
+
+// A key that converts from anything: erasing by iterator must not be mistaken for erasing by key.
+struct permissive_key {
+  permissive_key(int i) : id(i) {}
+  template <class _Any> permissive_key(const _Any&) : id(-1) {}
+  int id;
+};
+static bool operator<(const permissive_key& a, const permissive_key& b) { return a.id < b.id; }
+
+TEST(erasing_by_iterator_works_for_keys_that_convert_from_anything) {
+  std::map<permissive_key, int> unique_keys;
+  unique_keys.insert(std::make_pair(permissive_key(1), 10));
+  unique_keys.insert(std::make_pair(permissive_key(2), 20));
+  unique_keys.erase(unique_keys.begin());
+  CHECK_EQ(unique_keys.size(), 1u);
+  CHECK_EQ(unique_keys.begin()->first.id, 2);
+  std::multimap<permissive_key, int> equal_keys;
+  equal_keys.insert(std::make_pair(permissive_key(1), 10));
+  equal_keys.insert(std::make_pair(permissive_key(1), 11));
+  equal_keys.erase(equal_keys.begin());
+  CHECK_EQ(equal_keys.size(), 1u);
+  CHECK_EQ(equal_keys.begin()->second, 11);
+}
