@@ -85,7 +85,11 @@ inline bool operator<=(const bit_position& x, const bit_position& y) { return !(
 inline bool operator>=(const bit_position& x, const bit_position& y) { return !(x < y); }
 
 // _Ref is bit_reference for the iterator and bool for the const_iterator.
-template <class _Ref> class bit_iterator : public bit_position {
+// The std::iterator base puts namespace std among the places an unqualified call looks.
+template <class _Ref>
+class bit_iterator : public std::iterator<std::random_access_iterator_tag, bool, std::ptrdiff_t,
+                                          bit_reference*, _Ref>,
+                     public bit_position {
 public:
   typedef std::random_access_iterator_tag iterator_category;
   typedef bool value_type;

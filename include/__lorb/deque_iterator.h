@@ -12,7 +12,10 @@ namespace __vel {
 enum { deque_block_elements = 20 };
 
 // A default iterator is all null: the begin and the end of a deque that holds no map.
-template <class _T, class _Ref, class _Ptr> class deque_iterator {
+// The std::iterator base puts namespace std among the places an unqualified call looks.
+template <class _T, class _Ref, class _Ptr>
+class deque_iterator
+    : public std::iterator<std::random_access_iterator_tag, _T, std::ptrdiff_t, _Ptr, _Ref> {
 public:
   typedef std::random_access_iterator_tag iterator_category;
   typedef _T value_type;

@@ -75,7 +75,10 @@ inline void reverse_ring(list_node_base& header) {
   } while (node != &header);
 }
 
-template <class _T, class _Ref, class _Ptr> class list_iterator {
+// The std::iterator base puts namespace std among the places an unqualified call looks.
+template <class _T, class _Ref, class _Ptr>
+class list_iterator
+    : public std::iterator<std::bidirectional_iterator_tag, _T, std::ptrdiff_t, _Ptr, _Ref> {
 public:
   typedef std::bidirectional_iterator_tag iterator_category;
   typedef _T value_type;

@@ -22,7 +22,12 @@ struct rb_tree_iterator_base {
   void back() { node = rb_tree_base::__prev(node); }
 };
 
-template <class _Value> struct rb_tree_iterator : rb_tree_iterator_base {
+// The std::iterator bases put namespace std among the places an unqualified call looks, so that
+// count(s.begin(), s.end(), x) finds std::count as it does with other libraries.
+template <class _Value>
+struct rb_tree_iterator
+    : std::iterator<std::bidirectional_iterator_tag, _Value, std::ptrdiff_t, _Value*, _Value&>,
+      rb_tree_iterator_base {
   typedef std::bidirectional_iterator_tag iterator_category;
   typedef _Value value_type;
   typedef std::ptrdiff_t difference_type;
@@ -62,7 +67,10 @@ template <class _Value> struct rb_tree_iterator : rb_tree_iterator_base {
 };
 
 // The mutable kind converts to this one, so the two compare with each other in either order.
-template <class _Value> struct rb_tree_const_iterator : rb_tree_iterator_base {
+template <class _Value>
+struct rb_tree_const_iterator : std::iterator<std::bidirectional_iterator_tag, _Value,
+                                              std::ptrdiff_t, const _Value*, const _Value&>,
+                                rb_tree_iterator_base {
   typedef std::bidirectional_iterator_tag iterator_category;
   typedef _Value value_type;
   typedef std::ptrdiff_t difference_type;
