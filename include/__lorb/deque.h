@@ -246,33 +246,9 @@ private:
   }
 };
 
-template <class _T, class _Alloc>
-inline bool operator==(const deque<_T, _Alloc>& x, const deque<_T, _Alloc>& y) {
-  return x.size() == y.size() && std::equal(x.begin(), x.end(), y.begin());
-}
-template <class _T, class _Alloc>
-inline bool operator<(const deque<_T, _Alloc>& x, const deque<_T, _Alloc>& y) {
-  return std::lexicographical_compare(x.begin(), x.end(), y.begin(), y.end());
-}
-template <class _T, class _Alloc>
-inline bool operator!=(const deque<_T, _Alloc>& x, const deque<_T, _Alloc>& y) {
-  return !(x == y);
-}
-template <class _T, class _Alloc>
-inline bool operator>(const deque<_T, _Alloc>& x, const deque<_T, _Alloc>& y) {
-  return y < x;
-}
-template <class _T, class _Alloc>
-inline bool operator<=(const deque<_T, _Alloc>& x, const deque<_T, _Alloc>& y) {
-  return !(y < x);
-}
-template <class _T, class _Alloc>
-inline bool operator>=(const deque<_T, _Alloc>& x, const deque<_T, _Alloc>& y) {
-  return !(x < y);
-}
-template <class _T, class _Alloc> inline void swap(deque<_T, _Alloc>& x, deque<_T, _Alloc>& y) {
-  x.swap(y);
-}
+#define __LORB_CONTAINER_HEAD template <class _T, class _Alloc>
+#define __LORB_CONTAINER deque<_T, _Alloc>
+#include <__lorb/container_comparisons.h>
 
 } // namespace std
 

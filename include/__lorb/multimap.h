@@ -58,40 +58,9 @@ public:
   value_compare value_comp() const { return value_compare(this->key_comp()); }
 };
 
-template <class _Key, class _T, class _Compare, class _Alloc>
-inline bool operator==(const multimap<_Key, _T, _Compare, _Alloc>& x,
-                       const multimap<_Key, _T, _Compare, _Alloc>& y) {
-  return x.size() == y.size() && std::equal(x.begin(), x.end(), y.begin());
-}
-template <class _Key, class _T, class _Compare, class _Alloc>
-inline bool operator<(const multimap<_Key, _T, _Compare, _Alloc>& x,
-                      const multimap<_Key, _T, _Compare, _Alloc>& y) {
-  return std::lexicographical_compare(x.begin(), x.end(), y.begin(), y.end());
-}
-template <class _Key, class _T, class _Compare, class _Alloc>
-inline bool operator!=(const multimap<_Key, _T, _Compare, _Alloc>& x,
-                       const multimap<_Key, _T, _Compare, _Alloc>& y) {
-  return !(x == y);
-}
-template <class _Key, class _T, class _Compare, class _Alloc>
-inline bool operator>(const multimap<_Key, _T, _Compare, _Alloc>& x,
-                      const multimap<_Key, _T, _Compare, _Alloc>& y) {
-  return y < x;
-}
-template <class _Key, class _T, class _Compare, class _Alloc>
-inline bool operator>=(const multimap<_Key, _T, _Compare, _Alloc>& x,
-                       const multimap<_Key, _T, _Compare, _Alloc>& y) {
-  return !(x < y);
-}
-template <class _Key, class _T, class _Compare, class _Alloc>
-inline bool operator<=(const multimap<_Key, _T, _Compare, _Alloc>& x,
-                       const multimap<_Key, _T, _Compare, _Alloc>& y) {
-  return !(y < x);
-}
-template <class _Key, class _T, class _Compare, class _Alloc>
-inline void swap(multimap<_Key, _T, _Compare, _Alloc>& x, multimap<_Key, _T, _Compare, _Alloc>& y) {
-  x.swap(y);
-}
+#define __LORB_CONTAINER_HEAD template <class _Key, class _T, class _Compare, class _Alloc>
+#define __LORB_CONTAINER multimap<_Key, _T, _Compare, _Alloc>
+#include <__lorb/container_comparisons.h>
 
 } // namespace std
 

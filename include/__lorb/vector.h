@@ -243,33 +243,9 @@ private:
   void __range_assign(_Forward first, _Forward last, forward_iterator_tag);
 };
 
-template <class _T, class _Alloc>
-inline bool operator==(const vector<_T, _Alloc>& x, const vector<_T, _Alloc>& y) {
-  return x.size() == y.size() && std::equal(x.begin(), x.end(), y.begin());
-}
-template <class _T, class _Alloc>
-inline bool operator<(const vector<_T, _Alloc>& x, const vector<_T, _Alloc>& y) {
-  return std::lexicographical_compare(x.begin(), x.end(), y.begin(), y.end());
-}
-template <class _T, class _Alloc>
-inline bool operator!=(const vector<_T, _Alloc>& x, const vector<_T, _Alloc>& y) {
-  return !(x == y);
-}
-template <class _T, class _Alloc>
-inline bool operator>(const vector<_T, _Alloc>& x, const vector<_T, _Alloc>& y) {
-  return y < x;
-}
-template <class _T, class _Alloc>
-inline bool operator<=(const vector<_T, _Alloc>& x, const vector<_T, _Alloc>& y) {
-  return !(y < x);
-}
-template <class _T, class _Alloc>
-inline bool operator>=(const vector<_T, _Alloc>& x, const vector<_T, _Alloc>& y) {
-  return !(x < y);
-}
-template <class _T, class _Alloc> inline void swap(vector<_T, _Alloc>& x, vector<_T, _Alloc>& y) {
-  x.swap(y);
-}
+#define __LORB_CONTAINER_HEAD template <class _T, class _Alloc>
+#define __LORB_CONTAINER vector<_T, _Alloc>
+#include <__lorb/container_comparisons.h>
 
 } // namespace std
 
