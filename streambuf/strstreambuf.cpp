@@ -1,0 +1,228 @@
+// std::strstreambuf: the constructors, growth of a dynamic array, reading with the get area
+// extended over what was written, putting back, and the two seeks.
+#include <__lorb/strstreambuf.h>
+#include <string.h>
+
+namespace std {
+
+namespace {
+const int end_of_file = -1;
+const streamsize growth_step = 16;
+const streamsize unlimited_count = 0x7FFFFFFF;
+
+void* default_alloc(size_t n) { return new char[n]; }
+void default_free(void* p) { delete[] static_cast<char*>(p); }
+
+// The end of n characters from start. An end past the top of the address space stops at the top
+// instead of wrapping below start, so that an unlimited count works over any array.
+char* end_of(char* start, streamsize n) {
+  unsigned long room = ~0ul - reinterpret_cast<unsigned long>(start);
+  if (static_cast<unsigned long>(n) > room)
+    return reinterpret_cast<char*>(~0ul);
+  return start + n;
+}
+
+// A seek's base offset for way: beg 0, else the current or the end position.
+streamoff seek_base(ios_base::seekdir way, streamoff current, streamoff end) {
+  if (way == ios_base::cur)
+    return current;
+  if (way == ios_base::end)
+    return end;
+  return 0;
+}
+} // namespace
+
+strstreambuf::strstreambuf(streamsize alsize)
+    : __strmode(__dynamic), __alsize(alsize), __array_size(0), __palloc(default_alloc),
+      __pfree(default_free) {}
+
+strstreambuf::strstreambuf(void* (*palloc)(size_t), void (*pfree)(void*))
+    : __strmode(__dynamic), __alsize(growth_step), __array_size(0),
+      __palloc(palloc ? palloc : default_alloc), __pfree(pfree ? pfree : default_free) {}
+
+// Kept: only the plain char form suggests 16 as the allocation size.
+strstreambuf::strstreambuf(char* gnext, streamsize n, char* pbeg)
+    : __strmode(0), __alsize(growth_step) {
+  __initialize(gnext, n, pbeg);
+}
+
+strstreambuf::strstreambuf(const char* gnext, streamsize n) : __strmode(__constant), __alsize(0) {
+  __initialize(const_cast<char*>(gnext), n, 0);
+}
+
+strstreambuf::strstreambuf(signed char* gnext, streamsize n, signed char* pbeg)
+    : __strmode(0), __alsize(0) {
+  __initialize(reinterpret_cast<char*>(gnext), n, reinterpret_cast<char*>(pbeg));
+}
+
+strstreambuf::strstreambuf(const signed char* gnext, streamsize n)
+    : __strmode(__constant), __alsize(0) {
+  __initialize(reinterpret_cast<char*>(const_cast<signed char*>(gnext)), n, 0);
+}
+
+strstreambuf::strstreambuf(unsigned char* gnext, streamsize n, unsigned char* pbeg)
+    : __strmode(0), __alsize(0) {
+  __initialize(reinterpret_cast<char*>(gnext), n, reinterpret_cast<char*>(pbeg));
+}
+
+strstreambuf::strstreambuf(const unsigned char* gnext, streamsize n)
+    : __strmode(__constant), __alsize(0) {
+  __initialize(reinterpret_cast<char*>(const_cast<unsigned char*>(gnext)), n, 0);
+}
+
+// Kept: nothing is released (see the header).
+strstreambuf::~strstreambuf() {}
+
+// The array is N characters at gnext: n, the text up to the NUL when n is 0, unlimited when n is
+// negative. The put area runs from pbeg for N characters but stops at the array's end, which it
+// would pass whenever pbeg is not gnext.
+void strstreambuf::__initialize(char* gnext, streamsize n, char* pbeg) {
+  __palloc = 0;
+  __pfree = 0;
+  streamsize size = n > 0 ? n : n == 0 ? static_cast<streamsize>(strlen(gnext)) : unlimited_count;
+  __array_size = size;
+  if (!pbeg) {
+    setg(gnext, gnext, end_of(gnext, size));
+    return;
+  }
+  setg(gnext, gnext, pbeg);
+  char* put_end = end_of(pbeg, size);
+  char* array_end = end_of(gnext, size);
+  if (array_end < put_end)
+    put_end = array_end;
+  setp(pbeg, put_end < pbeg ? pbeg : put_end);
+}
+
+// A full put area is extended by one character inside the array, or the array grows.
+strstreambuf::int_type strstreambuf::overflow(int_type c) {
+  if (c == end_of_file)
+    return 0;
+  if (pptr() < epptr()) {
+    *__pnext++ = static_cast<char>(c);
+    return c;
+  }
+  if (!(__strmode & __dynamic) || (__strmode & __frozen))
+    return end_of_file;
+  streamsize size = epptr() - pbase();
+  if (__array_size > size) {
+    __pnext = __pbegin + size;
+    __pend = __pnext + 1;
+  } else if (!__grow()) {
+    return end_of_file;
+  }
+  if (pptr() < epptr()) {
+    *__pnext++ = static_cast<char>(c);
+    return c;
+  }
+  return end_of_file;
+}
+
+// A new array of the larger of 16 more characters and alsize takes the characters of the put
+// area; the put area then holds one more place. False when the allocation gives nothing.
+bool strstreambuf::__grow() {
+  streamsize size = epptr() - pbase();
+  streamsize new_size = size + growth_step > __alsize ? size + growth_step : __alsize;
+  char* array = static_cast<char*>(__palloc ? __palloc(new_size) : default_alloc(new_size));
+  if (!array)
+    return false;
+  if (size > 0)
+    memcpy(array, pbase(), size);
+  __array_size = new_size;
+  char* old_array = pbase();
+  streamoff get_end = egptr() - eback();
+  // Kept: gptr is rebased by its distance from egptr, not from eback.
+  streamoff get_next = egptr() - gptr();
+  __pbegin = array;
+  __pnext = array + size;
+  __pend = __pnext + 1;
+  setg(array, array + get_next, array + get_end);
+  if (old_array) {
+    if (__pfree)
+      __pfree(old_array);
+    else
+      default_free(old_array);
+  }
+  __strmode |= __allocated;
+  return true;
+}
+
+// Stores each character while the put area has room, else hands it to overflow.
+streamsize strstreambuf::xsputn(const char* s, streamsize n) {
+  streamsize count = 0;
+  for (; count < n; ++count) {
+    if (pptr() && pptr() < epptr())
+      *__pnext++ = s[count];
+    else if (overflow(traits_type::to_int_type(s[count])) == end_of_file)
+      break;
+  }
+  return count;
+}
+
+// Kept: the character is returned sign-extended, so the byte 0xFF reads as end of file. The get
+// area is extended over what has been written since.
+strstreambuf::int_type strstreambuf::underflow() {
+  if (gptr() < egptr())
+    return static_cast<signed char>(*gptr());
+  if (!gptr() || !pptr() || pptr() <= egptr())
+    return end_of_file;
+  __gend = __pnext;
+  return static_cast<signed char>(*gptr());
+}
+
+// Kept: the character before gptr is never overwritten, even in a writable buffer; only the one
+// already there can be put back.
+strstreambuf::int_type strstreambuf::pbackfail(int_type c) {
+  if (!gptr() || gptr() <= eback())
+    return end_of_file;
+  if (c == end_of_file) {
+    --__gnext;
+    return 0;
+  }
+  if (traits_type::to_int_type(gptr()[-1]) != c)
+    return end_of_file;
+  --__gnext;
+  return c;
+}
+
+// A relative seek of both areas moves the get area alone.
+strstreambuf::pos_type strstreambuf::seekoff(off_type off, ios_base::seekdir way,
+                                             ios_base::openmode which) {
+  off_type result = -1;
+  if ((which & ios_base::in) && gptr()) {
+    off_type target = off + seek_base(way, gptr() - eback(), egptr() - eback());
+    if (target < 0 || target > egptr() - eback())
+      return pos_type(-1);
+    __gnext = __gbegin + target;
+    result = target;
+  }
+  bool relative_to_both = way == ios_base::cur && (which & ios_base::in);
+  if ((which & ios_base::out) && pptr() && !relative_to_both) {
+    off_type target = off + seek_base(way, pptr() - pbase(), epptr() - pbase());
+    if (target < 0 || target > epptr() - pbase())
+      return pos_type(-1);
+    __pnext = __pbegin + target;
+    return pos_type(target);
+  }
+  return pos_type(result);
+}
+
+// The get area must take the position when asked to; the put area moves when it can.
+strstreambuf::pos_type strstreambuf::seekpos(pos_type sp, ios_base::openmode which) {
+  off_type target = sp;
+  if (target < 0)
+    return pos_type(-1);
+  off_type result = -1;
+  if (which & ios_base::in) {
+    if (!gptr() || target > egptr() - eback())
+      return pos_type(-1);
+    __gnext = __gbegin + target;
+    result = target;
+  }
+  if ((which & ios_base::out) && pptr() && target <= epptr() - pbase()) {
+    __pnext = __pbegin + target;
+    return pos_type(target);
+  }
+  return pos_type(result);
+}
+
+} // namespace std
