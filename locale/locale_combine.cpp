@@ -1,10 +1,11 @@
 // Combining locales by category: a copy of one locale with some facets taken from another.
 #include <__lorb/ctype_facets.h>
 #include <__lorb/locale_core.h>
+#include <__lorb/money_facets.h>
 #include <__lorb/num_get.h>
 #include <__lorb/num_put.h>
-#include <__lorb/placeholder_facets.h>
 #include <__lorb/punct_facets.h>
+#include <__lorb/time_facets.h>
 #include <locale.h>
 #include <stdexcept>
 

@@ -1,10 +1,11 @@
 // The locale's shared representation: building its facets by category, copying, releasing.
 #include <__lorb/ctype_facets.h>
 #include <__lorb/locale_core.h>
+#include <__lorb/money_facets.h>
 #include <__lorb/num_get.h>
 #include <__lorb/num_put.h>
-#include <__lorb/placeholder_facets.h>
 #include <__lorb/punct_facets.h>
+#include <__lorb/time_facets.h>
 #include <string.h>
 
 namespace std {

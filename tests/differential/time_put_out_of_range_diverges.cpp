@@ -1,0 +1,25 @@
+// A field outside its range gives no text at all; the GNU library prints "?" for a month name and
+// the number as it is.
+#include "time_put_support.h"
+
+static void show_plain(const std::tm& t, const char* pattern) {
+  std::printf("%s -> [%s]\n", pattern, put_time(t, pattern).c_str());
+}
+
+int main() {
+  // Monday 5 March 2001, 14:07:09, day 63 of the year.
+  std::tm t;
+  std::memset(&t, 0, sizeof t);
+  t.tm_year = 101;
+  t.tm_mon = 2;
+  t.tm_mday = 5;
+  t.tm_hour = 14;
+  t.tm_min = 7;
+  t.tm_sec = 9;
+  t.tm_wday = 1;
+  t.tm_yday = 63;
+  t.tm_mon = 12;
+  t.tm_hour = 24;
+  show_plain(t, "[%b][%m][%H][%d]");
+  return 0;
+}
