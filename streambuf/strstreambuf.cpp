@@ -30,6 +30,13 @@ streamoff seek_base(ios_base::seekdir way, streamoff current, streamoff end) {
     return end;
   return 0;
 }
+
+// The position off from the base that way names, when it lies within [0, limit]; -1 otherwise.
+// Added in 64 bits: an offset near the largest streamoff must not wrap into range.
+streamoff seek_target(streamoff off, ios_base::seekdir way, streamoff current, streamoff limit) {
+  long long target = static_cast<long long>(off) + seek_base(way, current, limit);
+  return target < 0 || target > limit ? -1 : static_cast<streamoff>(target);
+}
 } // namespace
 
 strstreambuf::strstreambuf(streamsize alsize)
@@ -189,16 +196,16 @@ strstreambuf::pos_type strstreambuf::seekoff(off_type off, ios_base::seekdir way
                                              ios_base::openmode which) {
   off_type result = -1;
   if ((which & ios_base::in) && gptr()) {
-    off_type target = off + seek_base(way, gptr() - eback(), egptr() - eback());
-    if (target < 0 || target > egptr() - eback())
+    off_type target = seek_target(off, way, gptr() - eback(), egptr() - eback());
+    if (target < 0)
       return pos_type(-1);
     __gnext = __gbegin + target;
     result = target;
   }
   bool relative_to_both = way == ios_base::cur && (which & ios_base::in);
   if ((which & ios_base::out) && pptr() && !relative_to_both) {
-    off_type target = off + seek_base(way, pptr() - pbase(), epptr() - pbase());
-    if (target < 0 || target > epptr() - pbase())
+    off_type target = seek_target(off, way, pptr() - pbase(), epptr() - pbase());
+    if (target < 0)
       return pos_type(-1);
     __pnext = __pbegin + target;
     return pos_type(target);

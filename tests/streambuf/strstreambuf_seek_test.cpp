@@ -37,6 +37,16 @@ TEST(seekoff_in_before_the_start_or_past_egptr_fails_and_moves_nothing) {
   CHECK_EQ(s.buffer.get_offset(), 1L);
 }
 
+TEST(seekoff_by_the_largest_offsets_fails_without_wrapping_into_the_areas) {
+  split_buffer s;
+  CHECK_EQ(offset_of(s.buffer.seekoff(0x7FFFFFFF, io::cur, io::in)), invalid);
+  CHECK_EQ(offset_of(s.buffer.seekoff(0x7FFFFFFF, io::end, io::in)), invalid);
+  CHECK_EQ(s.buffer.get_offset(), 1L);
+  CHECK_EQ(offset_of(s.buffer.seekoff(0x7FFFFFFF, io::cur, io::out)), invalid);
+  CHECK_EQ(offset_of(s.buffer.seekoff(-0x7FFFFFFF - 1, io::cur, io::out)), invalid);
+  CHECK_EQ(s.buffer.put_offset(), 2L);
+}
+
 TEST(seekoff_in_without_a_get_area_fails) {
   test_strstreambuf empty;
   CHECK_EQ(offset_of(empty.seekoff(0, io::beg, io::in)), invalid);
