@@ -20,6 +20,14 @@ template <class _T> struct equals_value {
   template <class _A> bool operator()(const _A& a) const { return a == value; }
 };
 
+// A comparator with its arguments swapped: the order turned round, so that an algorithm and its
+// mirror image (max_element of min_element, prev_permutation of next_permutation) are one body.
+template <class _Compare> struct swapped_arguments {
+  _Compare& comp;
+  explicit swapped_arguments(_Compare& c) : comp(c) {}
+  template <class _A, class _B> bool operator()(const _A& a, const _B& b) { return comp(b, a); }
+};
+
 } // namespace __vel
 
 #endif

@@ -20,16 +20,11 @@ _Forward min_element_with(_Forward first, _Forward last, _Compare& comp) {
   return least;
 }
 
-// The first of the greatest elements.
+// The first of the greatest elements: the first least in the order turned round.
 template <class _Forward, class _Compare>
 _Forward max_element_with(_Forward first, _Forward last, _Compare& comp) {
-  if (first == last)
-    return first;
-  _Forward greatest = first;
-  while (++first != last)
-    if (comp(*greatest, *first))
-      greatest = first;
-  return greatest;
+  swapped_arguments<_Compare> turned(comp);
+  return min_element_with(first, last, turned);
 }
 
 // Finds the longest non-increasing tail, swaps the element before it with the last element of
@@ -60,30 +55,11 @@ bool next_permutation_with(_Bidirectional first, _Bidirectional last, _Compare& 
   }
 }
 
-// The mirror image of next_permutation.
+// The previous permutation is the next one in the order turned round.
 template <class _Bidirectional, class _Compare>
 bool prev_permutation_with(_Bidirectional first, _Bidirectional last, _Compare& comp) {
-  if (first == last)
-    return false;
-  _Bidirectional tail = last;
-  if (first == --tail)
-    return false;
-  for (;;) {
-    _Bidirectional tail_start = tail;
-    --tail;
-    if (comp(*tail_start, *tail)) {
-      _Bidirectional swap_with = last;
-      while (!comp(*--swap_with, *tail)) {
-      }
-      std::iter_swap(tail, swap_with);
-      std::reverse(tail_start, last);
-      return true;
-    }
-    if (tail == first) {
-      std::reverse(first, last);
-      return false;
-    }
-  }
+  swapped_arguments<_Compare> turned(comp);
+  return next_permutation_with(first, last, turned);
 }
 
 } // namespace __vel
