@@ -3,6 +3,7 @@
 #ifndef __LORB_ALGOBASE_H
 #define __LORB_ALGOBASE_H
 
+#include <__lorb/algo_compare.h>
 #include <__lorb/bitwise_copy.h>
 #include <__lorb/iterator_tags.h>
 #include <string.h>
@@ -106,12 +107,6 @@ inline void fill_n(_Out out, _Size n, const _T& value) {
     *out = value;
 }
 
-template <class _In1, class _In2> inline bool equal(_In1 first1, _In1 last1, _In2 first2) {
-  for (; first1 != last1; ++first1, ++first2)
-    if (!(*first1 == *first2))
-      return false;
-  return true;
-}
 template <class _In1, class _In2, class _Predicate>
 inline bool equal(_In1 first1, _In1 last1, _In2 first2, _Predicate same) {
   for (; first1 != last1; ++first1, ++first2)
@@ -120,16 +115,6 @@ inline bool equal(_In1 first1, _In1 last1, _In2 first2, _Predicate same) {
   return true;
 }
 
-template <class _In1, class _In2>
-inline bool lexicographical_compare(_In1 first1, _In1 last1, _In2 first2, _In2 last2) {
-  for (; first1 != last1 && first2 != last2; ++first1, ++first2) {
-    if (*first1 < *first2)
-      return true;
-    if (*first2 < *first1)
-      return false;
-  }
-  return first1 == last1 && first2 != last2;
-}
 template <class _In1, class _In2, class _Compare>
 inline bool lexicographical_compare(_In1 first1, _In1 last1, _In2 first2, _In2 last2,
                                     _Compare comp) {
@@ -140,6 +125,14 @@ inline bool lexicographical_compare(_In1 first1, _In1 last1, _In2 first2, _In2 l
       return false;
   }
   return first1 == last1 && first2 != last2;
+}
+
+template <class _In1, class _In2> inline bool equal(_In1 first1, _In1 last1, _In2 first2) {
+  return std::equal(first1, last1, first2, __vel::equal_values());
+}
+template <class _In1, class _In2>
+inline bool lexicographical_compare(_In1 first1, _In1 last1, _In2 first2, _In2 last2) {
+  return std::lexicographical_compare(first1, last1, first2, last2, __vel::less_than());
 }
 
 } // namespace std

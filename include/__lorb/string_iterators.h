@@ -3,6 +3,7 @@
 #ifndef __LORB_STRING_ITERATORS_H
 #define __LORB_STRING_ITERATORS_H
 
+#include <__lorb/integer_type.h>
 #include <cstddef>
 
 namespace __vel {
@@ -112,28 +113,10 @@ template <class _Result> struct string_iterator_only<char*, _Result> { typedef _
 struct string_integer_args {};
 struct string_iterator_args {};
 
-template <class _T> struct string_arguments { typedef string_iterator_args kind; };
-#define __LORB_STRING_INTEGER(type)                                                                \
-  template <> struct string_arguments<type> { typedef string_integer_args kind; };
-__LORB_STRING_INTEGER(bool)
-__LORB_STRING_INTEGER(char)
-__LORB_STRING_INTEGER(signed char)
-__LORB_STRING_INTEGER(unsigned char)
-__LORB_STRING_INTEGER(wchar_t)
-__LORB_STRING_INTEGER(short)
-__LORB_STRING_INTEGER(unsigned short)
-__LORB_STRING_INTEGER(int)
-__LORB_STRING_INTEGER(unsigned int)
-__LORB_STRING_INTEGER(long)
-__LORB_STRING_INTEGER(unsigned long)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wlong-long"
-typedef long long string_long_long;
-typedef unsigned long long string_unsigned_long_long;
-#pragma GCC diagnostic pop
-__LORB_STRING_INTEGER(string_long_long)
-__LORB_STRING_INTEGER(string_unsigned_long_long)
-#undef __LORB_STRING_INTEGER
+template <bool _Integer> struct string_argument_kind { typedef string_iterator_args kind; };
+template <> struct string_argument_kind<true> { typedef string_integer_args kind; };
+template <class _T>
+struct string_arguments : string_argument_kind<bool(is_integer_type<_T>::value)> {};
 } // namespace __vel
 
 #endif
