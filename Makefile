@@ -3,7 +3,7 @@ BUILD_DIR ?= build
 PREFIX ?= /usr/local
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: all deps build demo check memcheck bench install clean
+.PHONY: all deps build demo check memcheck bench clients install clean
 
 all: build
 
@@ -32,6 +32,10 @@ memcheck: build
 
 bench: build
 	@bash bench/run.sh $(BUILD_DIR)
+
+# Real programs from Debian's source packages, built and tested with Lorb++ and with the GNU library.
+clients: build
+	@bash tools/clients/run.sh $(BUILD_DIR)
 
 install: build
 	cmake --install $(BUILD_DIR) --prefix $(PREFIX)

@@ -1,4 +1,5 @@
-// The global allocation functions and the new-handler loop they run on exhausted memory.
+// The new-handler, nothrow, the placement deletes, and whether the program replaced allocation.
+// The replaceable allocation functions are in operator_new*.cpp and operator_delete*.cpp.
 #include <__lorb/array_growth.h>
 #include <__lorb/runtime.h>
 #include <new>
@@ -32,71 +33,19 @@ new_handler set_new_handler(new_handler handler) __LORB_NOEXCEPT {
 new_handler get_new_handler() noexcept { return _new_handler; }
 } // namespace std
 
-// No retry limit: a program handler that returns keeps the loop going.
-void* operator new(std::size_t size) {
-  if (size == 0)
-    size = 1;
-  for (;;) {
-    void* p = malloc(size);
-    if (p)
-      return p;
-    __lorb_handler_fn handler = _new_handler ? _new_handler : __default_new_handler;
-    handler();
-    if (handler == __default_new_handler)
-      return 0;
-  }
-}
-
-// Kept apart from the plain loop on purpose: a null handler gives up here without calling anything.
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-  if (size == 0)
-    size = 1;
-  for (;;) {
-    void* p = malloc(size);
-    if (p)
-      return p;
-    if (!_new_handler)
-      return 0;
-    if (call_new_handler())
-      return 0;
-  }
-}
-
-void* operator new[](std::size_t size) { return operator new(size); }
-
-void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
-  return operator new(size, tag);
-}
-
-void operator delete(void* p) noexcept {
-  if (p)
-    free(p);
-}
-
-void operator delete[](void* p) noexcept { operator delete(p); }
-
-void operator delete(void* p, const std::nothrow_t&) noexcept { operator delete(p); }
-
-void operator delete[](void* p, const std::nothrow_t&) noexcept { operator delete[](p); }
-
 void operator delete(void*, void*) noexcept {}
 
 void operator delete[](void*, void*) noexcept {}
 
-// The sized forms that C++14 code calls know nothing the plain forms need.
-void operator delete(void* p, std::size_t) noexcept { operator delete(p); }
-
-void operator delete[](void* p, std::size_t) noexcept { operator delete[](p); }
-
 // The library's own definitions under names of their own, which the dynamic linker cannot bind
-// elsewhere: set against the global names, they tell whether the program replaced them.
+// elsewhere: set against the global names, they tell whether the program replaced them. The
+// references are weak: a program linked with the static archive that replaces a function leaves
+// the archive's definition, and its name, out of the program, and a null name means replaced.
 namespace __vel {
-extern void* library_new(std::size_t)
-    __attribute__((__alias__("_Znwj"), __malloc__, __alloc_size__(1)));
-extern void* library_array_new(std::size_t)
-    __attribute__((__alias__("_Znaj"), __malloc__, __alloc_size__(1)));
-extern void library_delete(void*) noexcept __attribute__((__alias__("_ZdlPv")));
-extern void library_array_delete(void*) noexcept __attribute__((__alias__("_ZdaPv")));
+extern void* library_new(std::size_t) __attribute__((__weak__));
+extern void* library_array_new(std::size_t) __attribute__((__weak__));
+extern void library_delete(void*) noexcept __attribute__((__weak__));
+extern void library_array_delete(void*) noexcept __attribute__((__weak__));
 
 bool allocation_is_replaced() {
   static int replaced = -1;

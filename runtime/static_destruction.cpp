@@ -8,6 +8,11 @@ typedef __lorb_destruction_node node;
 static node* const end_marker = reinterpret_cast<node*>(17);
 static node* needed_destruction_head = end_marker;
 
+// A program linked with the static archive takes in only the objects it names. Whoever records
+// a destruction needs the walk scheduled at load, which startup.cpp does: naming it here brings
+// it along.
+__attribute__((__used__)) static void (*const walk_scheduler)() = __call_ctors;
+
 extern "C" {
 void __already_marked_for_destruction() { abort(); }
 
