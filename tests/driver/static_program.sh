@@ -51,4 +51,12 @@ PROG
 "$driver" -static -O2 "$work/replaces.cpp" -o "$work/replaces"
 out=$(${LORB_I386_LAUNCHER:-} "$work/replaces")
 [ "$out" = "through the program" ] || { echo "replacing program printed '$out'"; exit 1; }
+# -static-liblorb++: the library inside, the C library shared.
+"$driver" -static-liblorb++ -O2 "$examples/hello_world.cpp" -o "$work/hello_inside"
+needed=$(readelf -d "$work/hello_inside" | awk '/NEEDED/ {print $5}')
+! echo "$needed" | grep -q 'lorb++' || { echo "-static-liblorb++ still needs liblorb++.so"; exit 1; }
+echo "$needed" | grep -qx '\[libc.so.6\]' || { echo "-static-liblorb++ does not need libc.so.6: $needed"; exit 1; }
+${LORB_I386_LAUNCHER:-} "$work/hello_inside" > "$work/hello_inside.out"
+${LORB_I386_LAUNCHER:-} "$work/hello_world.shared" | cmp -s - "$work/hello_inside.out" ||
+  { echo "-static-liblorb++ program printed otherwise"; exit 1; }
 echo "static programs ok"
