@@ -1,6 +1,8 @@
 // std::string's representation: allocation, sharing, construction, destruction and assignment.
+#include <__lorb/array_growth.h>
 #include <__lorb/error.h>
 #include <stdexcept>
+#include <stdlib.h>
 #include <string>
 
 namespace std {
@@ -25,6 +27,29 @@ char* string::__new_buffer(size_type length, size_type* capacity) {
     __vel::out_of_memory();
   *capacity = bytes;
   return buffer;
+}
+
+// Moves this owner's characters (and their NUL) to a buffer sized by the rule for `length`. The
+// buffer asked for is the one __new_buffer asks for; while the program keeps the library's
+// allocation functions (malloc and free underneath), realloc takes the request, which extends the
+// buffer in place when it can and moves pages, not bytes, when it is large. Then appending one
+// character at a time costs no copy of the whole string each time the buffer grows.
+void string::__grow_buffer(size_type length) {
+  if (!__vel::allocation_is_replaced()) {
+    if (length >= 0xFFFFFFE0u)
+      __vel::out_of_memory();
+    size_type bytes = (length & ~size_type(31)) + 32;
+    if (char* grown = static_cast<char*>(realloc(__r->data, bytes))) {
+      __r->data = grown;
+      __r->capacity = bytes;
+      return;
+    }
+  }
+  // Through the program's own functions, or new's handler loop when realloc found no memory.
+  char* old_buffer = __r->data;
+  __r->data = __new_buffer(length, &__r->capacity);
+  traits_type::copy(__r->data, old_buffer, __r->length + 1);
+  allocator_type().deallocate(old_buffer, 0);
 }
 
 // A representation owned once, still without a buffer.

@@ -4,10 +4,11 @@
 namespace std {
 typedef string::size_type size_type;
 
-// Appending grows in place while the buffer has room, else moves the characters to a buffer sized
-// by the rule for the longer string. Returns where the `n` new characters go; *retired is as for
-// __open_gap (the appended characters may come from the old buffer).
-char* string::__open_tail(size_type n, char** retired) {
+// Appending grows in place while the buffer has room, else grows the buffer by the rule for the
+// longer string. Returns where the `n` new characters go. When `source` (the characters to
+// append, or null) lies in this string's own buffer, the buffer is not grown in place but moved,
+// and the old one is handed back in *retired, to be freed once the characters are copied.
+char* string::__open_tail(size_type n, char** retired, const char* source) {
   if (__r->length >= ~n)
     __throw_length_error();
   size_type old_length = __r->length;
@@ -20,9 +21,13 @@ char* string::__open_tail(size_type n, char** retired) {
     return mine->data + old_length;
   }
   if (new_length >= __r->capacity) {
-    *retired = __r->data;
-    __r->data = __new_buffer(new_length, &__r->capacity);
-    traits_type::copy(__r->data, *retired, old_length);
+    if (source && source >= __r->data && source < __r->data + __r->capacity) {
+      *retired = __r->data;
+      __r->data = __new_buffer(new_length, &__r->capacity);
+      traits_type::copy(__r->data, *retired, old_length);
+    } else {
+      __grow_buffer(new_length);
+    }
   }
   __r->length = new_length;
   __r->data[new_length] = 0;
@@ -31,7 +36,7 @@ char* string::__open_tail(size_type n, char** retired) {
 
 string& string::append(const char* s, size_type n) {
   char* retired;
-  traits_type::copy(__open_tail(n, &retired), s, n);
+  traits_type::copy(__open_tail(n, &retired, s), s, n);
   if (retired)
     allocator_type().deallocate(retired, 0);
   return *this;
@@ -39,7 +44,7 @@ string& string::append(const char* s, size_type n) {
 
 string& string::append(size_type n, char c) {
   char* retired;
-  traits_type::assign(__open_tail(n, &retired), n, c);
+  traits_type::assign(__open_tail(n, &retired, 0), n, c);
   if (retired)
     allocator_type().deallocate(retired, 0);
   return *this;
@@ -189,12 +194,8 @@ void string::resize(size_type n, char c) {
     return;
   }
   if (n > old_length) {
-    if (__r->capacity <= n) {
-      char* old_buffer = __r->data;
-      __r->data = __new_buffer(n, &__r->capacity);
-      traits_type::copy(__r->data, old_buffer, old_length);
-      allocator_type().deallocate(old_buffer, 0);
-    }
+    if (__r->capacity <= n)
+      __grow_buffer(n);
     traits_type::assign(__r->data + old_length, n - old_length, c);
   }
   __r->length = n;
@@ -207,10 +208,7 @@ void string::reserve(size_type n) {
     __throw_length_error();
   if (__r->capacity >= n)
     return;
-  char* old_buffer = __r->data;
-  __r->data = __new_buffer(n, &__r->capacity);
-  traits_type::copy(__r->data, old_buffer, __r->length + 1);
-  allocator_type().deallocate(old_buffer, 0);
+  __grow_buffer(n);
 }
 
 void string::clear() {

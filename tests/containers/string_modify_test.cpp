@@ -26,17 +26,21 @@ TEST(append_forms) {
 
 TEST(append_grows_by_the_size_rule_without_doubling) {
   std::string s;
-  unsigned reallocations = 0;
-  const char* buffer = s.data();
+  unsigned growths = 0;
+  std::string::size_type capacity = s.capacity();
+  bool intact = true;
   for (int i = 0; i < 1000; ++i) {
-    s += 'c';
-    if (s.data() != buffer) {
-      ++reallocations;
-      buffer = s.data();
+    s += static_cast<char>('a' + i % 26);
+    if (s.capacity() != capacity) {
+      ++growths;
+      CHECK_EQ(s.capacity(), capacity + 32); // one step of 32, never more
+      capacity = s.capacity();
     }
     CHECK_EQ(s.capacity(), (s.size() & ~31u) + 32);
+    intact = intact && s[i / 2] == static_cast<char>('a' + (i / 2) % 26) && s.c_str()[i + 1] == 0;
   }
-  CHECK_EQ(reallocations, 32u); // at lengths 1, 32, 64, ..., 992
+  CHECK(intact);
+  CHECK_EQ(growths, 31u); // at lengths 32, 64, ..., 992: the empty string's buffer already holds 31
 }
 
 TEST(append_of_itself) {

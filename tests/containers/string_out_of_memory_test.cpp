@@ -1,11 +1,13 @@
 // A string whose buffer cannot be allocated reports it and exits with status 1. This program
-// supplies its own malloc, which fails on demand, so no test needs to exhaust the machine.
+// supplies its own malloc and realloc, which fail on demand, so no test needs to exhaust the
+// machine.
 #include "lorb_test.h"
 #include <new>
 #include <stddef.h>
 #include <string>
 
 extern "C" void* __libc_malloc(size_t);
+extern "C" void* __libc_realloc(void*, size_t);
 
 static int mallocs_before_failure = -1; // -1: never fail
 
@@ -15,6 +17,16 @@ extern "C" void* malloc(size_t size) {
   if (mallocs_before_failure > 0)
     --mallocs_before_failure;
   return __libc_malloc(size);
+}
+
+// A growing buffer is realloc'd while the program keeps the library's allocation functions: it
+// fails with malloc, and counts as one request.
+extern "C" void* realloc(void* p, size_t size) {
+  if (mallocs_before_failure == 0)
+    return 0;
+  if (mallocs_before_failure > 0)
+    --mallocs_before_failure;
+  return __libc_realloc(p, size);
 }
 
 static const char no_memory[] = "Lorb++ : Could not allocate  memory ...\n";
