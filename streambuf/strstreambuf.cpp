@@ -1,5 +1,6 @@
 // std::strstreambuf: the constructors, growth of a dynamic array, reading with the get area
 // extended over what was written, putting back, and the two seeks.
+#include <__lorb/array_growth.h>
 #include <__lorb/strstreambuf.h>
 #include <string.h>
 
@@ -126,16 +127,29 @@ strstreambuf::int_type strstreambuf::overflow(int_type c) {
 
 // A new array of the larger of 16 more characters and alsize takes the characters of the put
 // area; the put area then holds one more place. False when the allocation gives nothing.
+// An array of the library's own (new[] underneath) grows through __vel::regrow_char_array: in
+// place by realloc when the program keeps the library's allocation functions, else by new[], a
+// copy and delete[] as before; either way at the same size.
 bool strstreambuf::__grow() {
   streamsize size = epptr() - pbase();
   streamsize new_size = size + growth_step > __alsize ? size + growth_step : __alsize;
-  char* array = static_cast<char*>(__palloc ? __palloc(new_size) : default_alloc(new_size));
-  if (!array)
-    return false;
-  if (size > 0)
-    memcpy(array, pbase(), size);
-  __array_size = new_size;
   char* old_array = pbase();
+  bool own_array = __palloc == default_alloc && (!__pfree || __pfree == default_free) &&
+                   old_array && (__strmode & __allocated);
+  char* array;
+  if (own_array) {
+    array = __vel::regrow_char_array(old_array, size, new_size);
+    if (!array)
+      return false;
+    old_array = 0; // given back or grown already
+  } else {
+    array = static_cast<char*>(__palloc ? __palloc(new_size) : default_alloc(new_size));
+    if (!array)
+      return false;
+    if (size > 0)
+      memcpy(array, pbase(), size);
+  }
+  __array_size = new_size;
   streamoff get_end = egptr() - eback();
   // Kept: gptr is rebased by its distance from egptr, not from eback.
   streamoff get_next = egptr() - gptr();

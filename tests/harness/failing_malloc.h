@@ -1,5 +1,5 @@
-// A malloc of the test program's own, which the library's calls reach instead of the C
-// library's: it counts the requests it refuses and can be told to refuse all of them.
+// A malloc and realloc of the test program's own, which the library's calls reach instead of
+// the C library's: they count the requests they refuse and can be told to refuse all of them.
 // Include it in exactly one file of a test program.
 #ifndef LORB_FAILING_MALLOC_H
 #define LORB_FAILING_MALLOC_H
@@ -7,6 +7,7 @@
 #include <stddef.h>
 
 extern "C" void* __libc_malloc(size_t);
+extern "C" void* __libc_realloc(void*, size_t);
 
 namespace lt {
 bool malloc_fails = false;    // while true, every request is refused
@@ -17,6 +18,16 @@ size_t last_refused_size = 0; // the size of the last refused request
 extern "C" void* malloc(size_t size) {
   if (!lt::malloc_fails)
     return __libc_malloc(size);
+  ++lt::refused_mallocs;
+  lt::last_refused_size = size;
+  return 0;
+}
+
+// Growing buffers are realloc'd while the program keeps the library's allocation functions:
+// refused alike, the old block kept.
+extern "C" void* realloc(void* p, size_t size) {
+  if (!lt::malloc_fails)
+    return __libc_realloc(p, size);
   ++lt::refused_mallocs;
   lt::last_refused_size = size;
   return 0;
