@@ -1,11 +1,12 @@
-// String streams: building 10 MB in a std::ostringstream from short strings, and parsing 1M ints
-// from a std::istringstream.
+// String streams: building 10 MB in a std::ostringstream and in a std::ostrstream from short
+// strings, and parsing 1M ints from a std::istringstream.
 #include "bench.h"
 #include "scale.h"
 #include <cstdio>
 #include <cstdlib>
 #include <sstream>
 #include <string>
+#include <strstream>
 
 // Strings of 8 to 16 characters; every other one goes through the C-string inserter. The final
 // str() is timed too: a program builds a string to get it.
@@ -32,6 +33,36 @@ static void build_short_strings() {
   if (static_cast<long>(built.size()) != written) {
     fprintf(stderr, "ostringstream_short_strings_10MB: built %lu characters, expected %ld\n",
             static_cast<unsigned long>(built.size()), written);
+    exit(1);
+  }
+}
+
+// The same text in the character-array stream, which grows its array 16 characters at a time.
+static void build_short_strings_in_array() {
+  const long total_bytes = bench::scaled(10L << 20);
+  std::string words[9];
+  for (unsigned w = 0; w < 9; ++w)
+    for (unsigned j = 0; j < 8 + w; ++j)
+      words[w] += static_cast<char>('a' + (w * 5 + j) % 26);
+  long count = 0, written = 0;
+  double start = bench::now_ns();
+  std::ostrstream out;
+  for (; written < total_bytes; ++count) {
+    const std::string& word = words[count % 9];
+    if (count & 1)
+      out << word.c_str();
+    else
+      out << word;
+    written += static_cast<long>(word.size());
+  }
+  long built = out.pcount();
+  char* text = out.str();
+  bench::report("ostrstream_short_strings_10MB", start, count);
+  bench::keep(text);
+  delete[] text;
+  if (built != written) {
+    fprintf(stderr, "ostrstream_short_strings_10MB: built %ld characters, expected %ld\n", built,
+            written);
     exit(1);
   }
 }
@@ -74,6 +105,7 @@ static void parse_ints() {
 
 int main() {
   build_short_strings();
+  build_short_strings_in_array();
   parse_ints();
   return 0;
 }

@@ -167,14 +167,39 @@ bool strstreambuf::__grow() {
   return true;
 }
 
-// Stores each character while the put area has room, else hands it to overflow.
+// g++'s virtual table of strstreambuf itself: an object whose table pointer is its address
+// point (two words in) is a strstreambuf and nothing derived, so its overflow is this one.
+extern "C" void* const _ZTVSt12strstreambuf[];
+
+// Stores each character while the put area has room, else hands it to overflow. A buffer that is
+// exactly a strstreambuf does at once what its own overflow would do character by character when
+// the array has room beyond the put area: extend the put area by the characters to store. The
+// areas, the array and the result come out the same; only the calls are saved.
 streamsize strstreambuf::xsputn(const char* s, streamsize n) {
+  bool own_overflow = *reinterpret_cast<void* const* const*>(this) == &_ZTVSt12strstreambuf[2];
+  bool may_grow = own_overflow && (__strmode & __dynamic) && !(__strmode & __frozen);
   streamsize count = 0;
-  for (; count < n; ++count) {
-    if (pptr() && pptr() < epptr())
-      *__pnext++ = s[count];
-    else if (overflow(traits_type::to_int_type(s[count])) == end_of_file)
+  while (count < n) {
+    if (pptr() && pptr() < epptr()) {
+      streamsize room = epptr() - pptr();
+      streamsize chunk = room < n - count ? room : n - count;
+      memcpy(__pnext, s + count, chunk);
+      __pnext += chunk;
+      count += chunk;
+      continue;
+    }
+    if (may_grow && pptr()) {
+      // The array grows as overflow grows it (and stops the writing as it would when it cannot).
+      if (__array_size <= epptr() - pbase() && !__grow())
+        break;
+      streamsize size = pptr() - pbase();
+      streamsize spare = __array_size - size;
+      __pend = __pnext + (spare < n - count ? spare : n - count);
+      continue;
+    }
+    if (overflow(traits_type::to_int_type(s[count])) == end_of_file)
       break;
+    ++count;
   }
   return count;
 }
