@@ -2,7 +2,7 @@
 # Installs what building and testing Lorb++ needs on a Debian 12 machine; does nothing when all is there.
 set -euo pipefail
 
-packages="g++ g++-multilib cmake make pkg-config valgrind locales libc6-dbg:i386"
+packages="g++ g++-multilib cmake make pkg-config valgrind locales libc6-dbg:i386 curl xz-utils dpkg-dev"
 locales_needed="de_DE.UTF-8 fr_FR.UTF-8 en_US.UTF-8 it_IT.UTF-8"
 
 missing=""
