@@ -25,15 +25,18 @@ best_times() { # program -> "workload best_ns" lines
     END { for (i = 0; i < n; i++) print order[i], best[order[i]] }'
 }
 
+results="$out/results.tsv"
+: > "$results"
 printf '%-40s %14s %14s %8s\n' workload "lorb++ ns/op" "GNU ns/op" ratio
 for source in bench/*.cpp; do
   name=$(basename "$source" .cpp)
   bin/lorb++ -O2 -Ibench "$source" -o "$out/${name}_lorb"
-  g++ -m32 -O2 -fno-exceptions -fno-rtti -Ibench "$source" -o "$out/${name}_gnu"
+  g++ -m32 -O2 -fno-exceptions -fno-rtti -Wno-deprecated -Ibench "$source" -o "$out/${name}_gnu"
   best_times "$out/${name}_gnu" > "$out/${name}_gnu.times"
   best_times "$out/${name}_lorb" | awk -v gnu="$out/${name}_gnu.times" '
     BEGIN { while ((getline line < gnu) > 0) { split(line, f, " "); g[f[1]] = f[2] } }
-    { printf "%-40s %14.2f %14.2f %8.2f\n", $1, $2, g[$1], (g[$1] > 0 ? $2 / g[$1] : 0) }'
+    { printf "%-40s %14.2f %14.2f %8.2f\n", $1, $2, g[$1], (g[$1] > 0 ? $2 / g[$1] : 0) }' |
+    tee -a "$results"
 done
 echo "(ratio = lorb++ time / GNU time; below 1 means Lorb++ is faster)"
 
@@ -55,4 +58,8 @@ done | awk '
   END {
     printf "%-40s %14.1f %14.1f %14.1f\n", "hello_world", best["lorb"], best["gnu"], best["c"]
     printf "(ratios: lorb++/GNU %.2f, lorb++/C %.2f)\n", best["lorb"] / best["gnu"], best["lorb"] / best["c"]
-  }'
+  }' | tee "$out/hello.txt"
+
+# The same table as Markdown and the ratios as a chart, for the README and for reading at a glance.
+bash bench/report.sh "$out"
+echo "written: $out/results.md and $out/ratios.svg"
