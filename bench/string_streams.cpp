@@ -8,63 +8,56 @@
 #include <string>
 #include <strstream>
 
-// Strings of 8 to 16 characters; every other one goes through the C-string inserter. The final
-// str() is timed too: a program builds a string to get it.
-static void build_short_strings() {
-  const long total_bytes = bench::scaled(10L << 20);
+// Writes strings of 8 to 16 characters until `total_bytes` are written; every other one goes
+// through the C-string inserter. Returns how many strings, and the characters in *written.
+template <class _Stream> static long write_short_strings(_Stream& out, long total_bytes, long* written) {
   std::string words[9];
   for (unsigned w = 0; w < 9; ++w)
     for (unsigned j = 0; j < 8 + w; ++j)
       words[w] += static_cast<char>('a' + (w * 5 + j) % 26);
-  long count = 0, written = 0;
-  double start = bench::now_ns();
-  std::ostringstream out;
-  for (; written < total_bytes; ++count) {
+  long count = 0;
+  for (*written = 0; *written < total_bytes; ++count) {
     const std::string& word = words[count % 9];
     if (count & 1)
       out << word.c_str();
     else
       out << word;
-    written += static_cast<long>(word.size());
+    *written += static_cast<long>(word.size());
   }
-  std::string built = out.str();
-  bench::report("ostringstream_short_strings_10MB", start, count);
-  bench::keep(built.data());
-  if (static_cast<long>(built.size()) != written) {
-    fprintf(stderr, "ostringstream_short_strings_10MB: built %lu characters, expected %ld\n",
-            static_cast<unsigned long>(built.size()), written);
+  return count;
+}
+
+static void check_length(const char* name, long built, long written) {
+  if (built != written) {
+    fprintf(stderr, "%s: built %ld characters, expected %ld\n", name, built, written);
     exit(1);
   }
 }
 
+// The final str() is timed too: a program builds a string to get it.
+static void build_short_strings() {
+  long written;
+  double start = bench::now_ns();
+  std::ostringstream out;
+  long count = write_short_strings(out, bench::scaled(10L << 20), &written);
+  std::string built = out.str();
+  bench::report("ostringstream_short_strings_10MB", start, count);
+  bench::keep(built.data());
+  check_length("ostringstream_short_strings_10MB", static_cast<long>(built.size()), written);
+}
+
 // The same text in the character-array stream, which grows its array 16 characters at a time.
 static void build_short_strings_in_array() {
-  const long total_bytes = bench::scaled(10L << 20);
-  std::string words[9];
-  for (unsigned w = 0; w < 9; ++w)
-    for (unsigned j = 0; j < 8 + w; ++j)
-      words[w] += static_cast<char>('a' + (w * 5 + j) % 26);
-  long count = 0, written = 0;
+  long written;
   double start = bench::now_ns();
   std::ostrstream out;
-  for (; written < total_bytes; ++count) {
-    const std::string& word = words[count % 9];
-    if (count & 1)
-      out << word.c_str();
-    else
-      out << word;
-    written += static_cast<long>(word.size());
-  }
+  long count = write_short_strings(out, bench::scaled(10L << 20), &written);
   long built = out.pcount();
   char* text = out.str();
   bench::report("ostrstream_short_strings_10MB", start, count);
   bench::keep(text);
   delete[] text;
-  if (built != written) {
-    fprintf(stderr, "ostrstream_short_strings_10MB: built %ld characters, expected %ld\n", built,
-            written);
-    exit(1);
-  }
+  check_length("ostrstream_short_strings_10MB", built, written);
 }
 
 // Both signs and every length from one digit to ten. The text is made with the C library in one

@@ -1,20 +1,9 @@
 // A string in a program that keeps the library's allocation functions: each growth step is a
 // realloc at the size the 32-byte rule asks for, and the characters survive it.
 #include "lorb_test.h"
+#include "recording_realloc.h"
 #include <stdlib.h>
 #include <string>
-
-extern "C" void* __libc_realloc(void*, size_t);
-
-static size_t realloc_sizes[64];
-static int realloc_calls = 0;
-
-extern "C" void* realloc(void* p, size_t size) {
-  if (realloc_calls < 64)
-    realloc_sizes[realloc_calls] = size;
-  ++realloc_calls;
-  return __libc_realloc(p, size);
-}
 
 static bool holds_the_alphabet_run(const std::string& s, size_t length) {
   if (s.size() != length || s.c_str()[length] != 0)

@@ -2,29 +2,11 @@
 // assignments, compound assignments, unary operators, sum/min/max, shift, cshift, apply, resize,
 // empty arrays, and an element type that counts its constructions and destructions.
 #include "lorb_test.h"
+#include "valarray_test_support.h"
 #include <cstdlib>
 #include <valarray>
 
 namespace {
-
-// Linear congruential generator: the tests' inputs.
-struct generator {
-  unsigned seed;
-  explicit generator(unsigned s) : seed(s) {}
-  unsigned next() {
-    seed = seed * 1103515245u + 12345u;
-    return seed >> 8;
-  }
-  unsigned below(unsigned n) { return next() % n; }
-  int between(int low, int high) { return low + int(below(unsigned(high - low + 1))); }
-};
-
-std::valarray<int> random_ints(generator& gen, std::size_t n, int low, int high) {
-  std::valarray<int> v(n);
-  for (std::size_t i = 0; i < n; ++i)
-    v[i] = gen.between(low, high);
-  return v;
-}
 
 bool same(const std::valarray<int>& v, const int* expected, std::size_t n) {
   if (v.size() != n)

@@ -1,23 +1,12 @@
 // valarray's binary operators (array with array, array with value, value with array) and its
 // mathematical functions over generated arrays, each checked against a plain loop.
 #include "lorb_test.h"
+#include "valarray_test_support.h"
 #include <cmath>
 #include <cstdlib>
 #include <valarray>
 
 namespace {
-
-struct generator {
-  unsigned seed;
-  explicit generator(unsigned s) : seed(s) {}
-  unsigned next() {
-    seed = seed * 1103515245u + 12345u;
-    return seed >> 8;
-  }
-  unsigned below(unsigned n) { return next() % n; }
-  int between(int low, int high) { return low + int(below(unsigned(high - low + 1))); }
-  double real(double low, double high) { return low + (high - low) * (next() % 100000) / 1e5; }
-};
 
 template <class _T>
 std::valarray<_T> random_array(generator& gen, std::size_t n, int low, int high) {

@@ -2,27 +2,10 @@
 // plain loops: slices with strides, gslices of two and three dimensions, masks and index arrays
 // (repeated indices when reading), each read, assigned, compound-assigned and filled.
 #include "lorb_test.h"
+#include "valarray_test_support.h"
 #include <valarray>
 
 namespace {
-
-struct generator {
-  unsigned seed;
-  explicit generator(unsigned s) : seed(s) {}
-  unsigned next() {
-    seed = seed * 1103515245u + 12345u;
-    return seed >> 8;
-  }
-  unsigned below(unsigned n) { return next() % n; }
-  int between(int low, int high) { return low + int(below(unsigned(high - low + 1))); }
-};
-
-std::valarray<int> random_ints(generator& gen, std::size_t n, int low, int high) {
-  std::valarray<int> v(n);
-  for (std::size_t i = 0; i < n; ++i)
-    v[i] = gen.between(low, high);
-  return v;
-}
 
 // The positions a subset stands for, as the model sees them.
 struct positions {

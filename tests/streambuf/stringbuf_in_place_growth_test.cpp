@@ -1,21 +1,10 @@
 // A string buffer in a program that keeps the library's allocation functions: each 64-character
 // step is a realloc at the rule's size, and the text and the read position survive it.
 #include "lorb_test.h"
+#include "recording_realloc.h"
 #include <sstream>
 #include <stdlib.h>
 #include <string>
-
-extern "C" void* __libc_realloc(void*, size_t);
-
-static size_t realloc_sizes[64];
-static int realloc_calls = 0;
-
-extern "C" void* realloc(void* p, size_t size) {
-  if (realloc_calls < 64)
-    realloc_sizes[realloc_calls] = size;
-  ++realloc_calls;
-  return __libc_realloc(p, size);
-}
 
 TEST(each_step_after_the_first_is_a_realloc_at_the_next_multiple_of_64) {
   realloc_calls = 0;

@@ -2,20 +2,9 @@
 // first array, each growth is a realloc at the size the rule asks for (16 more, or alsize), and
 // the text and the read position survive it. Arrays from the program's own palloc never are.
 #include "lorb_test.h"
+#include "recording_realloc.h"
 #include <stdlib.h>
 #include <strstream>
-
-extern "C" void* __libc_realloc(void*, size_t);
-
-static size_t realloc_sizes[64];
-static int realloc_calls = 0;
-
-extern "C" void* realloc(void* p, size_t size) {
-  if (realloc_calls < 64)
-    realloc_sizes[realloc_calls] = size;
-  ++realloc_calls;
-  return __libc_realloc(p, size);
-}
 
 static bool holds_the_digit_run(const char* text, int length) {
   for (int i = 0; i < length; ++i)
