@@ -19,6 +19,13 @@ const char* fopen_mode_of(ios_base::openmode mode) {
 // A value outside 0..255 is written as the character 0.
 char narrowed(int c) { return c == (c & 0xff) ? static_cast<char>(c) : '\0'; }
 
+// A program's conversion facet that says it wrote past the end it was given (or before the
+// start) is not believed: the conversion counts as failed and nothing is written, so the
+// terminator never lands outside the buffer.
+bool within(const char* to_next, const char* begin, const char* end) {
+  return to_next && to_next >= begin && to_next <= end;
+}
+
 } // namespace
 
 basic_filebuf<char>::~basic_filebuf() {
@@ -160,6 +167,8 @@ basic_filebuf<char>::int_type basic_filebuf<char>::overflow(int_type c) {
       written = putc_unlocked(ch, __file);
       break;
     case codecvt_base::ok:
+      if (!within(to_next, converted, converted + 3))
+        return traits_type::eof();
       *to_next = 0;
       written = fputs(converted, __file);
       break;
@@ -186,6 +195,8 @@ streamsize basic_filebuf<char>::xsputn(const char* s, streamsize n) {
   case codecvt_base::noconv:
     return static_cast<streamsize>(fwrite_unlocked(s, 1, n, __file));
   case codecvt_base::ok: {
+    if (!within(to_next, converted, converted + 7))
+      return 0;
     *to_next = 0;
     int written = fputs(converted, __file);
     return written == EOF ? 0 : written;
