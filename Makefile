@@ -3,7 +3,7 @@ BUILD_DIR ?= build
 PREFIX ?= /usr/local
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: all deps build demo check memcheck bench clients fuzz install clean
+.PHONY: all deps build demo check memcheck bench clients install clean
 
 all: build
 
@@ -36,10 +36,6 @@ bench: build
 # Real programs from Debian's source packages, built and tested with Lorb++ and with the GNU library.
 clients: build
 	@bash tools/clients/run.sh $(BUILD_DIR)
-
-# Each fuzz harness for FUZZ_SECONDS (default 600) from its seed corpus; FUZZ_ONLY=<name> runs one.
-fuzz: build
-	@bash tools/fuzz/run.sh $(BUILD_DIR)
 
 install: build
 	cmake --install $(BUILD_DIR) --prefix $(PREFIX)
