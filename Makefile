@@ -3,7 +3,7 @@ BUILD_DIR ?= build
 PREFIX ?= /usr/local
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: all deps build demo check memcheck bench clients install clean
+.PHONY: all deps build demo check memcheck bench clients fuzz install clean
 
 all: build
 
@@ -36,6 +36,12 @@ bench: build
 # Real programs from Debian's source packages, built and tested with Lorb++ and with the GNU library.
 clients: build
 	@bash tools/clients/run.sh $(BUILD_DIR)
+
+# Coverage-guided fuzzing of the parsers, stream buffers, string and containers with AFL++;
+# FUZZ_SECONDS a target (default 600), FUZZ_ONLY=<name> for one.
+fuzz:
+	@bash tools/install-deps.sh fuzz
+	@bash tools/fuzz/run.sh $(BUILD_DIR)
 
 install: build
 	cmake --install $(BUILD_DIR) --prefix $(PREFIX)

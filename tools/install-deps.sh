@@ -3,6 +3,10 @@
 set -euo pipefail
 
 packages="g++ g++-multilib cmake make pkg-config valgrind locales libc6-dbg:i386 curl xz-utils dpkg-dev"
+# make fuzz: clang for the coverage instrumentation and the sanitizers' i386 run-times, AFL++.
+if [ "${1:-}" = fuzz ]; then
+  packages="$packages clang libclang-rt-14-dev afl++"
+fi
 locales_needed="de_DE.UTF-8 fr_FR.UTF-8 en_US.UTF-8 it_IT.UTF-8"
 
 missing=""
