@@ -38,7 +38,13 @@ needed=$(readelf -d "$work/prog" | awk '/NEEDED/ {print $5}')
 if echo "$needed" | grep -q 'libstdc++'; then
   echo "the program links the GNU C++ library:"; echo "$needed"; exit 1
 fi
-echo "$needed" | grep -qx '\[liblorb++.so.1\]' || { echo "liblorb++ not linked: $needed"; exit 1; }
+# The library is named by its full path, and no rpath is searched.
+lib_dir=$(cd "${LORB_BUILD_DIR:?}/lib" && pwd)
+echo "$needed" | grep -qx "\[$lib_dir/liblorb++.so.1\]" ||
+  { echo "liblorb++ not linked by its path in $lib_dir: $needed"; exit 1; }
+if readelf -d "$work/prog" | grep -qE 'RUNPATH|RPATH'; then
+  echo "the program carries a search path:"; readelf -d "$work/prog" | grep -E 'RUNPATH|RPATH'; exit 1
+fi
 # Compiling alone must work too.
 "$driver" -std=c++$mode -c "$work/prog.cpp" -o "$work/prog.o"
 echo "c++$mode ok"

@@ -19,7 +19,7 @@ want=$(printf 'lorb++ %s (Lorb++, the C++98 library for i386 Linux)\nstand-in co
 
 out=$("$driver" --help) || fail "--help failed"
 for expected in "Usage: lorb++ [g++ options] file..." \
-  "-m32 -nostdinc++ -fno-exceptions -fno-rtti -fcheck-new -isystem" "-llorb++" "-static" \
+  "-m32 -nostdinc++ -fno-exceptions -fno-rtti -fcheck-new -isystem" "lorb++/liblorb++.so" "-static" \
   "Not available: -fexceptions and -frtti"; do
   echo "$out" | grep -qF -- "$expected" || fail "--help does not say: $expected"
 done

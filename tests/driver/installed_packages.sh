@@ -19,7 +19,9 @@ runs_and_links() { # program, what it must need ("shared" or "static")
   needed=$(readelf -d "$1" | awk '/NEEDED/ {print $5}')
   if echo "$needed" | grep -q 'libstdc++'; then echo "$1 links the GNU C++ library"; exit 1; fi
   if [ "$2" = shared ]; then
-    echo "$needed" | grep -qx '\[liblorb++.so.1\]' || { echo "$1 does not need liblorb++: $needed"; exit 1; }
+    # By its soname through pkg-config or the CMake package, by its full path through the driver.
+    echo "$needed" | grep -qx "\[\($prefix/lib/\)\{0,1\}liblorb++.so.1\]" ||
+      { echo "$1 does not need liblorb++: $needed"; exit 1; }
   else
     ! echo "$needed" | grep -q 'liblorb++' || { echo "$1 needs liblorb++.so: $needed"; exit 1; }
     nm "$1" | grep -q ' T _Znwj$' || { echo "$1 does not carry the library"; exit 1; }

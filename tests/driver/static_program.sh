@@ -56,6 +56,10 @@ out=$(${LORB_I386_LAUNCHER:-} "$work/replaces")
 needed=$(readelf -d "$work/hello_inside" | awk '/NEEDED/ {print $5}')
 ! echo "$needed" | grep -q 'lorb++' || { echo "-static-liblorb++ still needs liblorb++.so"; exit 1; }
 echo "$needed" | grep -qx '\[libc.so.6\]' || { echo "-static-liblorb++ does not need libc.so.6: $needed"; exit 1; }
+# Nothing of the library's is looked for at run time, so no search path is kept.
+if readelf -d "$work/hello_inside" | grep -qE 'RUNPATH|RPATH'; then
+  echo "-static-liblorb++ keeps a search path"; exit 1
+fi
 ${LORB_I386_LAUNCHER:-} "$work/hello_inside" > "$work/hello_inside.out"
 ${LORB_I386_LAUNCHER:-} "$work/hello_world.shared" | cmp -s - "$work/hello_inside.out" ||
   { echo "-static-liblorb++ program printed otherwise"; exit 1; }
