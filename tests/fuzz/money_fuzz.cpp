@@ -20,10 +20,16 @@ struct array_money_put : std::money_put<char, char*> {
 typedef std::istreambuf_iterator<char> money_in;
 typedef std::ostreambuf_iterator<char> money_out;
 
-// Four fields, each one of none, space, symbol, sign and value: valid patterns and broken ones.
+// Four fields, each one of none, space, symbol, sign and value (valid patterns and patterns
+// with a part twice or missing), now and then a byte that is no part at all.
 void choose_pattern(fuzz_input& in, char* fields) {
-  for (int i = 0; i < 4; ++i)
-    fields[i] = static_cast<char>(in.below(5));
+  static const char parts[] = {std::money_base::none, std::money_base::space,
+                               std::money_base::symbol, std::money_base::sign,
+                               std::money_base::value};
+  for (int i = 0; i < 4; ++i) {
+    unsigned choice = in.byte();
+    fields[i] = choice < 250 ? parts[choice % 5] : static_cast<char>(choice);
+  }
   fields[4] = 0;
 }
 
