@@ -5,6 +5,7 @@
 #define FACETS_TIME_FACET_SUPPORT_H
 
 #include "lorb_test.h"
+#include "string_sink_iterator.h"
 #include <locale>
 #include <sstream>
 #include <stdlib.h>
@@ -47,18 +48,6 @@ struct time_reader : array_time_get {
   using array_time_get::do_time_scanf;
   using array_time_get::get_integral_data;
   using array_time_get::which_matches;
-};
-
-// Writes into a string through a back-inserting iterator.
-struct string_sink_iterator {
-  std::string* to;
-  string_sink_iterator& operator*() { return *this; }
-  string_sink_iterator& operator=(char c) {
-    *to += c;
-    return *this;
-  }
-  string_sink_iterator& operator++() { return *this; }
-  string_sink_iterator operator++(int) { return *this; }
 };
 
 struct time_writer : std::time_put<char, string_sink_iterator> {

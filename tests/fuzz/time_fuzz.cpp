@@ -1,6 +1,7 @@
 // time_get and time_put over generated formats: conversions of every letter (known and unknown),
 // literals, and a lone '%' at the end, over random text and random tm fields. The pointer
 // instances and the stream-buffer instances must agree on every field, the bits and the count.
+#include "facets/string_sink_iterator.h"
 #include "fuzz_input.h"
 #include <locale>
 #include <sstream>
@@ -110,19 +111,8 @@ void read(unsigned which, const std::string& format, const std::string& text) {
 }
 
 // Writes into a string; compared with what the stream-buffer instance wrote.
-struct string_sink {
-  std::string* to;
-  string_sink& operator*() { return *this; }
-  string_sink& operator=(char c) {
-    *to += c;
-    return *this;
-  }
-  string_sink& operator++() { return *this; }
-  string_sink operator++(int) { return *this; }
-};
-
-struct sink_writer : std::time_put<char, string_sink> {
-  sink_writer() : std::time_put<char, string_sink>(1) {}
+struct sink_writer : std::time_put<char, string_sink_iterator> {
+  sink_writer() : std::time_put<char, string_sink_iterator>(1) {}
 };
 
 int any_int(fuzz_input& in) {
@@ -149,7 +139,7 @@ void write(fuzz_input& in, const std::string& format) {
   std::ostringstream stream;
   stream.width(in.below(40));
   std::string by_sink;
-  string_sink sink = {&by_sink};
+  string_sink_iterator sink = {&by_sink};
   sink_writer writer;
   writer.put(sink, stream, fill, &t, format.data(), format.data() + format.size());
   const std::time_put<char>& facet = std::use_facet<std::time_put<char> >(stream.getloc());
@@ -158,7 +148,7 @@ void write(fuzz_input& in, const std::string& format) {
   FUZZ_CHECK(stream.str() == by_sink);
   // One conversion through the single-letter put as well.
   std::string one;
-  string_sink one_sink = {&one};
+  string_sink_iterator one_sink = {&one};
   writer.put(one_sink, stream, fill, &t, conversions[in.below(sizeof conversions - 1)]);
 }
 
