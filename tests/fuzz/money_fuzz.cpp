@@ -114,7 +114,9 @@ void write(const Amount& amount, const std::locale& loc, bool intl, std::ios_bas
   stream.imbue(loc);
   stream.flags(flags);
   stream.width(width);
-  static char array[32768];
+  // A broken pattern may hold the value four times, each up to 4,933 integer digits of a long
+  // double, a separator between any two, and the fraction.
+  static char array[1 << 17];
   memset(array, 0x7f, sizeof array);
   array_money_put array_facet;
   char* end = array_facet.put(array, intl, stream, fill, amount);
