@@ -57,6 +57,22 @@ TEST(append_of_itself) {
   CHECK_STR(shared.c_str(), "shr");
 }
 
+// Iterators over the string's own characters that are not pointers: append reads the range as
+// if copied first, even when appending it grows the buffer it reads (more than 128 characters,
+// the most read before the first growth).
+TEST(append_of_its_own_characters_through_reverse_iterators) {
+  for (size_t length = 1; length < 700; length += 37) {
+    std::string s;
+    for (size_t i = 0; i < length; ++i)
+      s += static_cast<char>('a' + i % 26);
+    std::string expected = s;
+    for (size_t i = length; i > 0; --i)
+      expected += s[i - 1];
+    s.append(s.rbegin(), s.rend());
+    CHECK(s == expected);
+  }
+}
+
 TEST(append_nothing_keeps_the_string) {
   std::string s("same");
   s.append("", 0);
